@@ -1,0 +1,141 @@
+#include "driver.hpp"
+
+#include <charconv>
+
+#include "calculator/calc_window.hpp"
+#include "json_text.hpp"
+#include "names.hpp"
+#include "properties.hpp"
+
+namespace tessarine::drive {
+
+namespace {
+
+// The seed of the headless program's random numbers, so that scripts repeat.
+constexpr std::uint64_t kRandomSeed = 20261122;
+
+void ExpectArgs(const std::vector<Word>& args, std::size_t min, std::size_t max,
+                const char* usage) {
+  if (args.size() < min || args.size() > max) throw ScriptError(std::string("usage: ") + usage);
+}
+
+std::string FieldText(const CalcWindow::FieldValue& value) {
+  struct Visitor {
+    std::string operator()(double x) const { return JsonNumber(x); }
+    std::string operator()(const std::string& s) const { return JsonString(s); }
+    std::string operator()(bool b) const { return JsonBool(b); }
+    std::string operator()(std::int64_t n) const { return JsonNumber(static_cast<double>(n)); }
+  };
+  return std::visit(Visitor{}, value);
+}
+
+std::string EventText(const PlatformEvent& event) {
+  if (event.kind == "beep" || event.kind == "quit") return "{\"" + event.kind + "\":true}";
+  std::string text = "{" + JsonString(event.kind) + ":" + JsonString(event.text);
+  if (event.kind == "show") text += ",\"sheet\":" + JsonBool(event.flag);
+  if (event.kind == "exception") text += ",\"handler\":" + JsonString(event.detail);
+  return text + "}";
+}
+
+}  // namespace
+
+Driver::Driver(const DriverOptions& options)
+    : options_(options),
+      platform_(options.decimal_separator),
+      program_(platform_.platform(), kRandomSeed) {
+  AddControlCommands();
+  AddPlatformCommands();
+  program_.Start();
+}
+
+void Driver::RunLine(const std::string& line, std::ostream& out) {
+  std::string error;
+  auto words = SplitWords(line, error);
+  if (!words) throw ScriptError(error);
+  if (words->empty() || (!(*words)[0].quoted && (*words)[0].text[0] == '#')) return;
+  if ((*words)[0].quoted) throw ScriptError("a line must start with a command");
+  const auto command = commands_.find((*words)[0].text);
+  if (command == commands_.end()) throw ScriptError("unknown command " + (*words)[0].text);
+  if (Finished() && command->first != "echo" && command->first != "events")
+    throw ScriptError("the program has ended");
+  const std::vector<Word> args(words->begin() + 1, words->end());
+  command->second(args, out);
+}
+
+void Driver::AddControlCommands() {
+  AddCommand("press", [this](const std::vector<Word>& args, std::ostream&) {
+    ExpectArgs(args, 1, 1, "press CONTROL");
+    const Target target = Resolve(program_, args[0].text);
+    if (!target.control) throw ScriptError(args[0].text + " is not a control");
+    target.control->Click();
+  });
+  AddCommand("get", [this](const std::vector<Word>& args, std::ostream& out) {
+    ExpectArgs(args, 1, 1, "get CONTROL.Property");
+    std::string name, property;
+    SplitProperty(args[0].text, name, property);
+    out << GetProperty(Resolve(program_, name), property) << '\n';
+  });
+  AddCommand("set", [this](const std::vector<Word>& args, std::ostream&) {
+    ExpectArgs(args, 2, 2, "set CONTROL.Property VALUE");
+    std::string name, property;
+    SplitProperty(args[0].text, name, property);
+    SetProperty(Resolve(program_, name), property, args[1]);
+  });
+  AddCommand("dump", [this](const std::vector<Word>& args, std::ostream& out) {
+    ExpectArgs(args, 1, 1, "dump CONTROL");
+    const Target target = Resolve(program_, args[0].text);
+    if (!target.control) throw ScriptError(args[0].text + " is not a control");
+    out << DumpControl(*target.control) << '\n';
+  });
+  AddCommand("field", [this](const std::vector<Word>& args, std::ostream& out) {
+    ExpectArgs(args, 1, 1, "field NAME");
+    std::string name = args[0].text;
+    if (const auto dot = name.find('.'); dot != std::string::npos) {
+      FindWindow(program_, name.substr(0, dot));
+      name = name.substr(dot + 1);
+    }
+    auto& window = static_cast<CalcWindow&>(FindWindow(program_, "CalcWindow"));
+    const auto value = window.FieldByName(name);
+    if (!value) throw ScriptError("unknown field " + args[0].text);
+    out << FieldText(*value) << '\n';
+  });
+}
+
+void Driver::AddPlatformCommands() {
+  AddCommand("wait", [this](const std::vector<Word>& args, std::ostream&) {
+    ExpectArgs(args, 1, 1, "wait MS");
+    long long ms = 0;
+    const std::string& s = args[0].text;
+    auto [end, ec] = std::from_chars(s.data(), s.data() + s.size(), ms);
+    if (ec != std::errc() || end != s.data() + s.size() || ms < 0 || ms > 1000LL * 86400 * 365)
+      throw ScriptError("wait takes milliseconds, got " + s);
+    platform_.Wait(ms);
+  });
+  for (const bool down : {true, false}) {
+    AddCommand(down ? "hold" : "release", [this, down](const std::vector<Word>& args,
+                                                       std::ostream&) {
+      ExpectArgs(args, 1, 8, down ? "hold MOD..." : "release MOD...");
+      for (const Word& key : args)
+        if (!platform_.Hold(key.text, down)) throw ScriptError("unknown key " + key.text);
+    });
+  }
+  AddCommand("clipboard", [this](const std::vector<Word>& args, std::ostream& out) {
+    ExpectArgs(args, 0, 1, "clipboard [TEXT]");
+    if (args.empty()) {
+      const auto& text = platform_.ClipboardText();
+      out << (text ? JsonString(*text) : "null") << '\n';
+    } else {
+      platform_.SetClipboard(args[0].text);
+    }
+  });
+  AddCommand("events", [this](const std::vector<Word>& args, std::ostream& out) {
+    ExpectArgs(args, 0, 0, "events");
+    for (const PlatformEvent& event : platform_.TakeEvents()) out << EventText(event) << '\n';
+  });
+  AddCommand("echo", [](const std::vector<Word>& args, std::ostream& out) {
+    for (std::size_t i = 0; i < args.size(); ++i) out << (i ? " " : "") << args[i].text;
+    out << '\n';
+  });
+}
+
+}  // namespace tessarine::drive

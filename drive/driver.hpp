@@ -1,0 +1,55 @@
+// Driver: one fresh calculator on the headless platform, driven one script line at
+// a time. Each command is a small function in a table, so that new subsystems add
+// their commands without touching the others (see docs/driver.md).
+#pragma once
+
+#include <functional>
+#include <map>
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "runtime/headless/headless_platform.hpp"
+#include "script_words.hpp"
+#include "shell/program.hpp"
+
+namespace tessarine::drive {
+
+// A line the driver cannot run: malformed, or naming what does not exist.
+class ScriptError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+struct DriverOptions {
+  std::string prefs_dir;
+  std::string decimal_separator = ".";
+};
+
+class Driver {
+ public:
+  explicit Driver(const DriverOptions& options);
+
+  // Runs one line of a script, writing what it prints to `out`. Throws ScriptError.
+  void RunLine(const std::string& line, std::ostream& out);
+  // The program has ended (its main window closed).
+  bool Finished() const { return platform_.QuitRequested(); }
+
+  HeadlessPlatform& Platform() { return platform_; }
+  tessarine::Program& Program() { return program_; }
+
+  using Command = std::function<void(const std::vector<Word>& args, std::ostream& out)>;
+  void AddCommand(const std::string& name, Command command) { commands_[name] = std::move(command); }
+
+ private:
+  void AddControlCommands();
+  void AddPlatformCommands();
+
+  DriverOptions options_;
+  HeadlessPlatform platform_;
+  tessarine::Program program_;
+  std::map<std::string, Command> commands_;
+};
+
+}  // namespace tessarine::drive

@@ -1,0 +1,156 @@
+#include "calculator/calc_window.hpp"
+
+#include <functional>
+#include <utility>
+
+#include "runtime/text.hpp"
+#include "shell/main_window_layout.hpp"
+#include "shell/program.hpp"
+
+namespace tessarine {
+
+namespace {
+
+// The controls locked while the display shows an error, in the order they are
+// switched. Clear stays live: it is the way out.
+constexpr std::pair<std::string_view, int> kErrorStateControls[] = {
+    {"ButtonPercent", -1},       {"Button0", -1},           {"Button1", -1},
+    {"Button2", -1},             {"Button3", -1},           {"Button4", -1},
+    {"Button5", -1},             {"Button6", -1},           {"Button7", -1},
+    {"Button8", -1},             {"Button9", -1},           {"ButtonEqual", -1},
+    {"ButtonDecimal", -1},       {"ButtonPlus", -1},        {"ButtonMinus", -1},
+    {"ButtonTimes", -1},         {"ButtonDivide", -1},      {"ButtonClearEntry", -1},
+    {"ButtonChangeSign", -1},    {"ButtonFactorial", -1},   {"CombinationsButton", -1},
+    {"PermutationsButton", -1},  {"ProbabilityButton", -1}, {"ButtonExp", -1},
+    {"ButtonSciNotation", -1},   {"ButtonSquareRoot", -1},  {"ButtonCubeRoot", -1},
+    {"Buttonpi", -1},            {"ButtonLog", -1},         {"ButtonRoundUp", -1},
+    {"ButtonRoundDown", -1},     {"ButtonSine", -1},        {"ButtonCosine", -1},
+    {"ButtonTangent", -1},       {"ButtonArcSine", -1},     {"ButtonArcCosine", -1},
+    {"ButtonArcTangent", -1},    {"ButtonRandom", -1},      {"ButtonRound", -1},
+    {"StoragePlusButton", -1},   {"StorageMinusButton", -1}, {"StorageRecallButton", -1},
+    {"StorageClearButton", -1},  {"UnitsRadio", 0},         {"UnitsRadio", 1},
+    {"ButtonSquared", -1},       {"ButtonCubed", -1},       {"ButtoneToTheX", -1},
+    {"ButtonDeltaPercent", -1},  {"Buttonln", -1},          {"ButtonLogBasen", -1},
+    {"ButtonOneOverX", -1},      {"ButtonTenToTheX", -1},   {"ButtonXtotheY", -1},
+    {"ButtonNthRoot", -1},       {"ButtonStatsInput", -1},  {"ConversionUpdateNowButton", -1},
+    {"TrigGroupBox", -1},        {"TrigGroupBoxLabel", -1},
+};
+
+}  // namespace
+
+CalcWindow::CalcWindow(Program& program)
+    : Window(program.GetPlatform(), "CalcWindow"),
+      program_(program),
+      globals_(program.Globals()),
+      controls_made_(MakeControls()),
+      Display(Get("Display")),
+      ExponentText(Get("ExponentText")),
+      MessageText(Get("MessageText")),
+      ButtonDecimal(Get("ButtonDecimal")),
+      ShowAdvancedFeaturesButton(Get("ShowAdvancedFeaturesButton")),
+      ToggleTrigButtonsTimer(AddTimer("ToggleTrigButtonsTimer", 500, Timer::kOff)),
+      StartupMessageTimer(AddTimer("StartupMessageTimer", 100, Timer::kOff)) {
+  SetBounds(0, 0, 670, 290);
+  for (const auto& [name, index] : kErrorStateControls)
+    error_state_controls_.push_back(index < 0 ? &Get(name) : &Item(name, index));
+  WireHandlers();
+}
+
+bool CalcWindow::MakeControls() {
+  for (const ControlSpec& spec : MainWindowControls()) AddControl(spec);
+  return true;
+}
+
+void CalcWindow::WireHandlers() {
+  // Each key's Action is a one-line forwarder to the key's method; the keyboard
+  // map calls the same methods.
+  const std::pair<std::string_view, void (CalcWindow::*)()> keys[] = {
+      {"Button0", &CalcWindow::Button0Action},
+      {"Button1", &CalcWindow::Button1Action},
+      {"Button2", &CalcWindow::Button2Action},
+      {"Button3", &CalcWindow::Button3Action},
+      {"Button4", &CalcWindow::Button4Action},
+      {"Button5", &CalcWindow::Button5Action},
+      {"Button6", &CalcWindow::Button6Action},
+      {"Button7", &CalcWindow::Button7Action},
+      {"Button8", &CalcWindow::Button8Action},
+      {"Button9", &CalcWindow::Button9Action},
+      {"ButtonDecimal", &CalcWindow::ButtonDecimalAction},
+      {"ButtonPlus", &CalcWindow::ButtonPlusAction},
+      {"ButtonMinus", &CalcWindow::ButtonMinusAction},
+      {"ButtonTimes", &CalcWindow::ButtonTimesAction},
+      {"ButtonDivide", &CalcWindow::ButtonDivideAction},
+      {"ButtonEqual", &CalcWindow::ButtonEqualAction},
+      {"ButtonPercent", &CalcWindow::ButtonPercentAction},
+      {"ButtonClear", &CalcWindow::ButtonClearAction},
+      {"ButtonClearEntry", &CalcWindow::ButtonClearEntryAction},
+      {"ButtonChangeSign", &CalcWindow::ButtonChangeSignAction},
+      {"ButtonExp", &CalcWindow::ButtonExpAction},
+      {"ButtonSciNotation", &CalcWindow::ButtonSciNotationAction},
+  };
+  for (const auto& [name, method] : keys) {
+    auto action = method;
+    Get(name).events.Action = [this, action] { (this->*action)(); };
+  }
+  StartupMessageTimer.Action = [this] { StartupMessageTimer_Action(); };
+}
+
+// Opening the window: the keypad's start state, the mode's size, and the
+// start-up timer that puts the first value on the display.
+void CalcWindow::Event_Open() {
+  Pi = 3.141592653589793;
+  DecimalCharacter = Mid(CStr(0.5), 2, 1);
+  ButtonDecimal.SetCaption(DecimalCharacter);
+  Result = 0;
+  CR = Chr(13);
+  StringResult.clear();
+
+  const int left = 220, top = 100;
+  if (ShowAdvancedFeatures) {
+    ShowAdvancedFeaturesButton.SetCaption("LESS");
+    SetBounds(left, top, 535, 290);
+    ToggleTrigButtonsTimer.SetMode(Timer::kMultiple);
+  } else {
+    ShowAdvancedFeaturesButton.SetCaption("MORE...");
+    SetBounds(left, top, 171, globals_.ShowMemoryButtons ? 272 : 249);
+  }
+  TrigButtonNormalCaptions = true;
+
+  StartupMessageTimer.SetPeriod(100);
+  StartupMessageTimer.SetMode(Timer::kSingle);
+  UseESCforClear = true;
+}
+
+void CalcWindow::StartupMessageTimer_Action() {
+  Display.SetTextSize(15);
+  Result = 0;
+  StringResult.clear();
+  UpdateDisplay();
+}
+
+std::optional<CalcWindow::FieldValue> CalcWindow::FieldByName(std::string_view name) const {
+  const std::pair<std::string_view, std::function<FieldValue()>> fields[] = {
+      {"Result", [this] { return FieldValue{Result}; }},
+      {"Stored", [this] { return FieldValue{Stored}; }},
+      {"Stored2", [this] { return FieldValue{Stored2}; }},
+      {"Calculation", [this] { return FieldValue{Calculation}; }},
+      {"Calculation2", [this] { return FieldValue{Calculation2}; }},
+      {"ClearDisplay", [this] { return FieldValue{ClearDisplay}; }},
+      {"ClearDisplay2", [this] { return FieldValue{ClearDisplay2}; }},
+      {"StringResult", [this] { return FieldValue{StringResult}; }},
+      {"UserIsTypingExponent", [this] { return FieldValue{UserIsTypingExponent}; }},
+      {"Exponent", [this] { return FieldValue{Exponent}; }},
+      {"DecimalCharacter", [this] { return FieldValue{DecimalCharacter}; }},
+      {"CR", [this] { return FieldValue{CR}; }},
+      {"Pi", [this] { return FieldValue{Pi}; }},
+      {"PreciseResult", [this] { return FieldValue{PreciseResult}; }},
+      {"TrigButtonNormalCaptions", [this] { return FieldValue{TrigButtonNormalCaptions}; }},
+      {"UseESCforClear", [this] { return FieldValue{UseESCforClear}; }},
+      {"ShowAdvancedFeatures", [this] { return FieldValue{ShowAdvancedFeatures}; }},
+  };
+  for (const auto& [field, read] : fields)
+    if (StrEq(field, name)) return read();
+  return std::nullopt;
+}
+
+}  // namespace tessarine

@@ -1,0 +1,153 @@
+// CalcWindow: the main window and the keypad calculator that lives in it.
+//
+// How a key press travels. A click on a key raises its control's Action, whose
+// handler forwards to the key's method (Button7 -> Button7Action); the keyboard
+// map calls the same methods. The methods change the keypad's state, the fields
+// below, and then show it:
+//   digits        KeyType appends to StringResult and puts the raw text on Display;
+//   operators     Calculate applies the pending function (Calculation2) and the
+//                 pending operator (Calculation) to Result, then UpdateDisplay;
+//   UpdateDisplay enters the error state on an infinity or not-a-number, else
+//                 FormatResult writes Display and ExponentText by the masks.
+// Every key also writes its tape line and gives its feedback (speech, sound)
+// through the calls in tape.cpp and feedback.cpp.
+//
+// The methods are spread over files by concern: entry_keys.cpp (digits, point,
+// sign, clear, clear entry), operator_keys.cpp (the four operators, equals,
+// percent, Calculate), result_display.cpp (UpdateDisplay, FormatResult, Padded,
+// Exp and Sci), error_state.cpp (ErrorHasOccurred), calc_window.cpp (making the
+// window, opening it, wiring the controls to their handlers).
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "runtime/control.hpp"
+#include "runtime/numbers.hpp"
+#include "runtime/window.hpp"
+#include "settings/global_stuff.hpp"
+
+namespace tessarine {
+
+class Program;
+
+class CalcWindow final : public Window {
+ public:
+  explicit CalcWindow(Program& program);
+
+  // --- The keypad's state -------------------------------------------------
+  double Result = 0;        // the current value: on display, read and written by every key
+  double Stored = 0;        // left operand of the pending operator
+  std::string Calculation;  // pending operator: "Add", "Subtract", "Multiply", "Divide", "None"
+  double Stored2 = 0;       // left operand of the pending two-operand function
+  std::string Calculation2;  // pending function: "NthRoot", "Power", ..., "Percent"
+  bool ClearDisplay = false;   // next digit starts anew; Result is no fresh operand
+  bool ClearDisplay2 = false;  // next digit starts anew; Result still counts as operand
+  std::string StringResult;    // the digits typed so far, unsigned, at most 12 characters
+  bool UserIsTypingExponent = false;
+  std::string Exponent;  // exponent digits typed so far, at most 3, unsigned
+  std::string DecimalCharacter;
+  std::string CR;
+  double Pi = 3.141592653589793;
+  double PreciseResult = 0;  // kept for the preferences file's sake; nothing reads it
+  bool TrigButtonNormalCaptions = true;
+  bool UseESCforClear = false;
+  bool ShowAdvancedFeatures = false;
+
+  // --- Keys ---------------------------------------------------------------
+  void KeyType(int digit);
+  void Button0Action() { DigitKey(0); }
+  void Button1Action() { DigitKey(1); }
+  void Button2Action() { DigitKey(2); }
+  void Button3Action() { DigitKey(3); }
+  void Button4Action() { DigitKey(4); }
+  void Button5Action() { DigitKey(5); }
+  void Button6Action() { DigitKey(6); }
+  void Button7Action() { DigitKey(7); }
+  void Button8Action() { DigitKey(8); }
+  void Button9Action() { DigitKey(9); }
+  void ButtonDecimalAction();
+  void ButtonPlusAction();
+  void ButtonMinusAction();
+  void ButtonTimesAction();
+  void ButtonDivideAction();
+  void ButtonEqualAction();
+  void ButtonPercentAction();
+  void ButtonClearAction();
+  void ButtonClearEntryAction();
+  void ButtonChangeSignAction();
+  void ButtonExpAction();
+  void ButtonSciNotationAction();
+  void Calculate();
+
+  // --- The display --------------------------------------------------------
+  void UpdateDisplay();
+  void FormatResult(double x);
+  void ErrorHasOccurred(bool is_error, const std::string& message);
+  std::string Padded(double x) const;
+  std::string ConvertPreciseResult(double x) const;
+  bool ParseResult(const std::string& s) const;
+  bool IsDigit(const std::string& s) const;
+  bool IsHex(const std::string& s) const;
+
+  // --- Feedback and the tape ----------------------------------------------
+  void WriteToTape(const std::string& mark);
+  void SpeakButton(const std::string& text);
+  void SpeakTotal(const std::string& text);
+  void PlayNumberSound();
+  void PlayCalculationSound();
+  void PlayResultSound();
+  void PlayClearSound();
+
+  // --- Two-operand functions computed by long loops ------------------------
+  double ComputeCombinations();
+  double ComputePermutations();
+
+  // --- Start-up -----------------------------------------------------------
+  void StartupMessageTimer_Action();
+
+  // A field of the keypad's logic by name, for the headless driver.
+  using FieldValue = std::variant<double, std::string, bool, std::int64_t>;
+  std::optional<FieldValue> FieldByName(std::string_view name) const;
+
+  // The controls that the error state disables, in their order.
+  const std::vector<Control*>& ErrorStateControls() const { return error_state_controls_; }
+
+ protected:
+  void Event_Open() override;
+
+ private:
+  bool MakeControls();
+  void DigitKey(int digit);
+  void WireHandlers();
+  void PlayErrorSound();
+  bool TapeIsOn() const;
+  void AppendToTape(const std::string& text);
+
+  // The runtime's number primitives in the user's notation.
+  std::string CStr(double x) const { return tessarine::CStr(x, platform_.decimal_separator); }
+  double CDbl(std::string_view s) const { return tessarine::CDbl(s, platform_.decimal_separator); }
+  std::string Format(double x, std::string_view mask) const {
+    return tessarine::Format(x, mask, platform_.decimal_separator);
+  }
+
+  Program& program_;
+  GlobalStuff& globals_;
+  bool controls_made_;  // made before the references below are bound
+
+  // The controls the keypad touches on every key.
+  Control& Display;
+  Control& ExponentText;
+  Control& MessageText;
+  Control& ButtonDecimal;
+  Control& ShowAdvancedFeaturesButton;
+  Timer& ToggleTrigButtonsTimer;
+  Timer& StartupMessageTimer;
+  std::vector<Control*> error_state_controls_;
+};
+
+}  // namespace tessarine

@@ -1,0 +1,113 @@
+#include "runtime/headless/headless_platform.hpp"
+
+#include <cstdio>
+
+#include "runtime/platform/keyboard_state.hpp"
+#include "runtime/timer.hpp"
+
+namespace tessarine {
+
+HeadlessPlatform::HeadlessPlatform(std::string decimal_separator)
+    : platform_{*this, *this, *this, *this, *this, *this, std::move(decimal_separator)} {}
+
+CivilTime HeadlessPlatform::Now() const {
+  // Virtual wall clock: a fixed moment plus the virtual time elapsed, so that
+  // scripts print the same dates on every run.
+  CivilTime t{2026, 1, 15, 12, 0, 0};
+  std::int64_t seconds = now_us_ / 1000000;
+  t.second = static_cast<int>(seconds % 60);
+  t.minute = static_cast<int>(seconds / 60 % 60);
+  t.hour = 12 + static_cast<int>(seconds / 3600 % 12);
+  return t;
+}
+
+std::string HeadlessPlatform::ShortDate(const CivilTime& t) const {
+  char text[32];
+  std::snprintf(text, sizeof text, "%04d-%02d-%02d", t.year, t.month, t.day);
+  return text;
+}
+
+std::string HeadlessPlatform::ShortTime(const CivilTime& t) const {
+  char text[16];
+  std::snprintf(text, sizeof text, "%02d:%02d", t.hour, t.minute);
+  return text;
+}
+
+bool HeadlessPlatform::AsyncKeyDown(int code) const {
+  return code == kPeriodKeyCode && held_.count("period") > 0;
+}
+
+bool HeadlessPlatform::Hold(const std::string& key, bool down) {
+  if (key != "ctrl" && key != "alt" && key != "shift" && key != "cmd" && key != "period")
+    return false;
+  if (down)
+    held_.insert(key);
+  else
+    held_.erase(key);
+  return true;
+}
+
+void HeadlessPlatform::Arm(Timer& timer, std::int64_t period_ms) {
+  timers_[&timer] = Scheduled{now_us_ + period_ms * 1000, next_sequence_++, period_ms * 1000};
+}
+
+void HeadlessPlatform::Disarm(Timer& timer) { timers_.erase(&timer); }
+
+void HeadlessPlatform::FireDue(std::int64_t until_us) {
+  for (;;) {
+    Timer* next = nullptr;
+    Scheduled when{0, 0, 0};
+    for (const auto& [timer, scheduled] : timers_) {
+      if (scheduled.due_us > until_us) continue;
+      if (!next || scheduled.due_us < when.due_us ||
+          (scheduled.due_us == when.due_us && scheduled.sequence < when.sequence)) {
+        next = timer;
+        when = scheduled;
+      }
+    }
+    if (!next) return;
+    if (when.due_us > now_us_) now_us_ = when.due_us;
+    // Schedule the next period before firing, so that the action may rearm or stop it.
+    if (next->Mode() == Timer::kMultiple)
+      timers_[next] = Scheduled{when.due_us + when.period_us, next_sequence_++, when.period_us};
+    else
+      timers_.erase(next);
+    next->Fire();
+  }
+}
+
+void HeadlessPlatform::Wait(std::int64_t ms) {
+  if (ms < 0) ms = 0;
+  const std::int64_t until = now_us_ + ms * 1000;
+  FireDue(until);
+  now_us_ = until;
+}
+
+void HeadlessPlatform::Yield() {
+  now_us_ += 1000;
+  FireDue(now_us_);
+}
+
+void HeadlessPlatform::ShowWindow(const std::string& name, bool as_sheet) {
+  PlatformEvent event{"show", name};
+  event.flag = as_sheet;
+  Log(std::move(event));
+}
+
+void HeadlessPlatform::ReportUnhandledException(const std::string& exception_class,
+                                                const std::string& handler_name) {
+  Log({"exception", exception_class, handler_name});
+}
+
+void HeadlessPlatform::Quit() {
+  quit_ = true;
+  Log({"quit", ""});
+}
+
+std::vector<PlatformEvent> HeadlessPlatform::TakeEvents() {
+  std::vector<PlatformEvent> taken;
+  taken.swap(events_);
+  return taken;
+}
+
+}  // namespace tessarine

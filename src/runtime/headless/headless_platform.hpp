@@ -1,0 +1,112 @@
+// The platform of the headless driver and the tests: virtual time, an in-memory
+// clipboard and keyboard, and a log of everything the program asked of its desktop
+// (speech, sounds, beeps, message boxes, windows, URLs, faults).
+//
+// Time only moves when asked: Wait advances it and fires due timers in order, and
+// Yield (a long loop letting the event loop run) advances it by one millisecond.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "runtime/platform/platform.hpp"
+
+namespace tessarine {
+
+// One thing the program did to its platform.
+struct PlatformEvent {
+  PlatformEvent(std::string kind_, std::string text_ = "", std::string detail_ = "")
+      : kind(std::move(kind_)), text(std::move(text_)), detail(std::move(detail_)) {}
+  std::string kind;  // "speak", "sound", "beep", "msgbox", "show", "close", "url",
+                     // "exception", "quit"
+  std::string text;  // what was spoken, played, shown, opened; the exception class
+  std::string detail;  // the handler of an exception
+  bool flag = false;   // "show": as a sheet
+};
+
+class HeadlessPlatform final : private Clock,
+                               private KeyboardState,
+                               private TimerHost,
+                               private Clipboard,
+                               private Feedback,
+                               private Desktop {
+ public:
+  explicit HeadlessPlatform(std::string decimal_separator = ".");
+  HeadlessPlatform(const HeadlessPlatform&) = delete;
+  HeadlessPlatform& operator=(const HeadlessPlatform&) = delete;
+
+  Platform& platform() { return platform_; }
+
+  // Advances virtual time by ms milliseconds, firing due timers in order.
+  void Wait(std::int64_t ms);
+  std::int64_t NowMicroseconds() const { return now_us_; }
+
+  // Keys held from now on, by name: "ctrl", "alt", "shift", "cmd", "period".
+  // Returns false for an unknown name.
+  bool Hold(const std::string& key, bool down);
+
+  void SetClipboard(std::optional<std::string> text) { clipboard_ = std::move(text); }
+  const std::optional<std::string>& ClipboardText() const { return clipboard_; }
+
+  // What happened since the last call, then forgotten.
+  std::vector<PlatformEvent> TakeEvents();
+  bool QuitRequested() const { return quit_; }
+
+ private:
+  // Clock
+  std::int64_t Ticks() const override { return now_us_ * 60 / 1000000; }
+  std::int64_t Microseconds() const override { return now_us_; }
+  CivilTime Now() const override;
+  std::string ShortDate(const CivilTime& t) const override;
+  std::string ShortTime(const CivilTime& t) const override;
+  // KeyboardState
+  bool AsyncControlKey() const override { return held_.count("ctrl") > 0; }
+  bool AsyncCommandKey() const override { return held_.count("cmd") > 0; }
+  bool AsyncOptionKey() const override { return held_.count("alt") > 0; }
+  bool AsyncShiftKey() const override { return held_.count("shift") > 0; }
+  bool AsyncKeyDown(int code) const override;
+  bool OptionKey() const override { return AsyncOptionKey(); }
+  // TimerHost
+  void Arm(Timer& timer, std::int64_t period_ms) override;
+  void Disarm(Timer& timer) override;
+  // Clipboard
+  std::optional<std::string> Text() const override { return clipboard_; }
+  void SetText(const std::string& text) override { clipboard_ = text; }
+  // Feedback
+  void Speak(const std::string& text) override { Log({"speak", text}); }
+  void PlaySound(const std::string& name) override { Log({"sound", name}); }
+  void Beep() override { Log({"beep", ""}); }
+  // Desktop
+  void MsgBox(const std::string& text) override { Log({"msgbox", text}); }
+  void ShowWindow(const std::string& name, bool as_sheet) override;
+  void CloseWindow(const std::string& name) override { Log({"close", name}); }
+  void ShowURL(const std::string& url) override { Log({"url", url}); }
+  void Yield() override;
+  void ReportUnhandledException(const std::string& exception_class,
+                                const std::string& handler_name) override;
+  void Quit() override;
+
+  void Log(PlatformEvent event) { events_.push_back(std::move(event)); }
+  // Fires every timer due at or before `until_us`, in order of due time.
+  void FireDue(std::int64_t until_us);
+
+  struct Scheduled {
+    std::int64_t due_us;
+    std::uint64_t sequence;  // arming order breaks ties
+    std::int64_t period_us;
+  };
+  Platform platform_;
+  std::int64_t now_us_ = 0;
+  std::uint64_t next_sequence_ = 0;
+  std::map<Timer*, Scheduled> timers_;
+  std::set<std::string> held_;
+  std::optional<std::string> clipboard_;
+  std::vector<PlatformEvent> events_;
+  bool quit_ = false;
+};
+
+}  // namespace tessarine

@@ -1,0 +1,81 @@
+// A Window owns its controls and timers, finds them by name, and is the one door
+// through which events enter the logic: Dispatch runs a handler and catches any
+// runtime fault that escapes it, reports the fault through the platform, and the
+// program goes on.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "runtime/control.hpp"
+#include "runtime/platform/platform.hpp"
+#include "runtime/timer.hpp"
+
+namespace tessarine {
+
+class Window {
+ public:
+  Window(Platform& platform, std::string name);
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+  virtual ~Window();
+
+  const std::string& Name() const { return name_; }
+  Platform& GetPlatform() const { return platform_; }
+
+  Control& AddControl(const ControlSpec& spec);
+  Timer& AddTimer(std::string name, int period_ms, int mode);
+
+  // nullptr when there is no such control (index -1 for a plain control).
+  Control* FindControl(std::string_view name, int index = -1) const;
+  // The control of that name; NilObjectException when there is none.
+  Control& Get(std::string_view name) const;
+  // One item of a control array; OutOfBoundsException outside the array.
+  Control& Item(std::string_view name, int index) const;
+  Timer* FindTimer(std::string_view name) const;
+  const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
+  const std::vector<std::unique_ptr<Timer>>& Timers() const { return timers_; }
+
+  // Opening and closing, as the user or the program does it.
+  void Open();
+  void Close();
+  bool IsOpen() const { return open_; }
+
+  int Left() const { return left_; }
+  int Top() const { return top_; }
+  int Width() const { return width_; }
+  int Height() const { return height_; }
+  void SetBounds(int left, int top, int width, int height);
+
+  // Runs one event handler. Faults escaping the outermost handler are reported
+  // and swallowed; inside a nested event they travel on to the outer handler.
+  void Dispatch(std::string_view handler_name, const std::function<void()>& handler);
+
+  // Change notification for front ends: a control's property, or the window's
+  // bounds (control == nullptr).
+  using Observer = std::function<void(Control* control, Property property)>;
+  void Observe(Observer observer) { observers_.push_back(std::move(observer)); }
+  void NotifyChanged(Control* control, Property property);
+
+ protected:
+  virtual void Event_Open() {}
+  virtual void Event_Close() {}
+
+  Platform& platform_;
+
+ private:
+  std::string name_;
+  std::vector<std::unique_ptr<Control>> controls_;
+  std::unordered_map<std::string, std::vector<Control*>> by_name_;  // folded name
+  std::vector<std::unique_ptr<Timer>> timers_;
+  std::vector<Observer> observers_;
+  int dispatch_depth_ = 0;
+  bool open_ = false;
+  int left_ = 0, top_ = 0, width_ = 0, height_ = 0;
+};
+
+}  // namespace tessarine

@@ -1,0 +1,34 @@
+// GlobalStuff: the settings every part of the program reads, with the values a
+// first start uses. One instance lives for the whole program, owned by Program and
+// handed down; the session fills it from the preferences file at start.
+#pragma once
+
+#include <string>
+
+namespace tessarine {
+
+struct GlobalStuff {
+  // Display masks and the thresholds of scientific form.
+  std::string NoExponentFormat = "-#.########";
+  std::string ExponentFormat = "-#.########e+";
+  std::string SmallPositiveNumber = "0.0000001";
+  std::string SmallNegativeNumber = "-0.0000001";
+  int NumberOfDecimals = 6;
+
+  // Sound switches.
+  bool UseNumberSound = true;
+  bool UseCalculationSound = true;
+  bool UseErrorSound = true;
+  bool UseClearSound = true;
+  bool UseResultSound = true;
+
+  bool ShowHelpTags = true;
+  bool ShowMemoryButtons = false;
+  std::string StartWithTabCalled = "Tab1";
+
+  // Rebuilds the four display strings from a number of decimals (0 to 10), as the
+  // preferences do when the user changes it.
+  void RebuildFormats(int decimals);
+};
+
+}  // namespace tessarine

@@ -1,0 +1,44 @@
+// Program: the whole running calculator, built once by main (or by a test) on a
+// platform. It owns the settings every part reads, the random source, and the
+// windows, each an implicit single instance: asking for one returns the open
+// window or makes and opens a new one in its start state.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "runtime/platform/platform.hpp"
+#include "runtime/random_source.hpp"
+#include "settings/global_stuff.hpp"
+
+namespace tessarine {
+
+class CalcWindow;
+
+class Program {
+ public:
+  Program(Platform& platform, std::uint64_t random_seed);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  // Start-up: touches the main window, which opens it and starts the session.
+  void Start();
+
+  Platform& GetPlatform() { return platform_; }
+  GlobalStuff& Globals() { return globals_; }
+  RandomSource& Random() { return random_; }
+
+  // The main window, opened if it is not.
+  CalcWindow& GetCalcWindow();
+  // The main window if it exists, without making it.
+  CalcWindow* ExistingCalcWindow() { return calc_window_.get(); }
+
+ private:
+  Platform& platform_;
+  GlobalStuff globals_;
+  RandomSource random_;
+  std::unique_ptr<CalcWindow> calc_window_;
+};
+
+}  // namespace tessarine
