@@ -1,0 +1,65 @@
+# Tessarine: every command a developer or CI needs, on a fresh Debian machine.
+#   make run    install what is missing, build, start the calculator
+#   make test   install what is missing, build, run every test (SAN=1: under ASan+UBSan)
+#   make bench  build optimised and run the benchmarks
+#   make deps   only install the Debian packages the project needs
+
+PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenchmark-dev \
+            nlohmann-json3-dev
+
+SAN ?= 0
+WERROR ?= 0
+JOBS ?= $(shell nproc 2>/dev/null || echo 2)
+
+ifeq ($(SAN),1)
+  BUILD_DIR := build-san
+  CMAKE_FLAGS := -DCMAKE_BUILD_TYPE=Debug -DTESSARINE_SANITIZE=ON
+else
+  BUILD_DIR := build
+  CMAKE_FLAGS := -DCMAKE_BUILD_TYPE=RelWithDebInfo
+endif
+ifeq ($(WERROR),1)
+  CMAKE_FLAGS += -DTESSARINE_WERROR=ON
+endif
+
+SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
+
+.PHONY: all deps configure build test run bench clean
+
+all: build
+
+# Installs only what is missing, so that a second run is quick and quiet.
+deps:
+	@missing=$$(for p in $(PACKAGES); do \
+	    dpkg-query -W -f='$${Status}\n' $$p 2>/dev/null | grep -q '^install ok installed' || echo $$p; \
+	  done); \
+	if [ -n "$$missing" ]; then \
+	  echo "Installing:" $$missing; \
+	  $(SUDO) apt-get update -qq && \
+	  DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq $$missing; \
+	fi
+
+configure: deps
+	@cmake -S . -B $(BUILD_DIR) -G Ninja $(CMAKE_FLAGS) > $(BUILD_DIR).configure.log 2>&1 || \
+	  { cat $(BUILD_DIR).configure.log; exit 1; }
+
+build: configure
+	@cmake --build $(BUILD_DIR) -j $(JOBS)
+
+test: build
+	@cd $(BUILD_DIR) && ctest --output-on-failure -j $(JOBS)
+
+# Until the desktop application exists, the calculator runs in the terminal: type
+# driver commands (see docs/driver.md), e.g. "press Button7" then "get Display.Text".
+run: build
+	@echo "Tessarine (headless): type commands such as 'wait 100', 'press Button7', 'get Display.Text'; Ctrl+D ends."
+	@$(BUILD_DIR)/drive/tessarine-drive
+
+bench: deps
+	@cmake -S . -B build-release -G Ninja -DCMAKE_BUILD_TYPE=Release -DTESSARINE_TESTS=OFF \
+	  -DTESSARINE_BENCH=ON > build-release.configure.log 2>&1 || { cat build-release.configure.log; exit 1; }
+	@cmake --build build-release -j $(JOBS)
+	@build-release/bench/tessarine_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
+
+clean:
+	rm -rf build build-san build-release *.configure.log
