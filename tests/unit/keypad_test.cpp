@@ -1,0 +1,177 @@
+// The keypad's logic where a driver script can't reach it yet: the pending
+// two-operand functions that the function keys arm, the display masks as the
+// preferences rebuild them, and the display helpers.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+
+#include "calculator/calc_window.hpp"
+#include "runtime/headless/headless_platform.hpp"
+#include "shell/program.hpp"
+
+namespace tessarine {
+namespace {
+
+class KeypadTest : public ::testing::Test {
+ protected:
+  KeypadTest() {
+    program.Start();
+    headless.Wait(100);
+  }
+  CalcWindow& W() { return program.GetCalcWindow(); }
+  // Presses keys by their signs: digits, ".", "+", "-", "x", "/", "=", "%", "C".
+  void Keys(const std::string& keys) {
+    for (char key : keys) {
+      std::string name;
+      switch (key) {
+        case '.': name = "ButtonDecimal"; break;
+        case '+': name = "ButtonPlus"; break;
+        case '-': name = "ButtonMinus"; break;
+        case 'x': name = "ButtonTimes"; break;
+        case '/': name = "ButtonDivide"; break;
+        case '=': name = "ButtonEqual"; break;
+        case '%': name = "ButtonPercent"; break;
+        case 'C': name = "ButtonClear"; break;
+        default: name = std::string("Button") + key; break;
+      }
+      W().Get(name).Click();
+    }
+  }
+  // What a two-operand function key does: it arms its function with the value on
+  // display as the left operand, and the next digit starts the right one.
+  void Arm(const std::string& function) {
+    W().Stored2 = W().Result;
+    W().Calculation2 = function;
+    W().ClearDisplay = true;
+  }
+  std::string Display() { return W().Get("Display").Text(); }
+
+  HeadlessPlatform headless;
+  Program program{headless.platform(), 1};
+};
+
+struct FunctionCase {
+  const char* name;
+  const char* before;  // keys before the function
+  const char* function;
+  const char* after;  // keys after it
+  double expected;
+};
+
+TEST_F(KeypadTest, PendingFunctionsBindTighterThanTheOperator) {
+  const FunctionCase cases[] = {
+      {"power after plus", "2+3", "Power", "2=", 11},
+      {"nth root", "27", "NthRoot", "3=", 3.0000000000000004},  // Pow(27, 1/3)
+      {"log base n, the second operand is the base", "8", "LogBasen", "2=", 3},
+      {"delta percent", "150", "DeltaPercent", "100=", 50},
+      {"power then times", "10x2", "Power", "3x", 80},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    Keys("C");
+    Keys(c.before);
+    Arm(c.function);
+    Keys(c.after);
+    EXPECT_DOUBLE_EQ(W().Result, c.expected);
+    EXPECT_EQ(W().Calculation2, "");
+  }
+}
+
+TEST_F(KeypadTest, AFunctionWithoutItsSecondOperandRunsNothing) {
+  Keys("5");
+  Arm("Power");
+  Keys("=");
+  EXPECT_EQ(W().Result, 5);
+  EXPECT_EQ(W().Calculation2, "");
+  EXPECT_EQ(W().Stored2, 5);  // left as it was
+}
+
+TEST_F(KeypadTest, PercentOverwritesAPendingFunction) {
+  Keys("200+");
+  Keys("3");
+  Arm("Power");
+  Keys("10%=");
+  EXPECT_EQ(W().Result, 220);
+}
+
+TEST_F(KeypadTest, RebuiltMasksFollowTheNumberOfDecimals) {
+  struct Case {
+    int decimals;
+    const char* keys;
+    const char* display;
+    const char* exponent;
+  };
+  const Case cases[] = {
+      {0, ".05=", "5.", "-2"},   // 0.05 is below 0.1: scientific form
+      {0, ".5=", "1.", ""},      // 0.5 is not; no decimals: rounded away from zero
+      {0, "2/3=", "1.", ""},
+      {2, "2/3=", "0.67", ""},
+      {2, ".005=", "5.", "-3"},  // below 0.01
+      {10, "2/3=", "0.6666666667", ""},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.keys);
+    program.Globals().RebuildFormats(c.decimals);
+    Keys("C");
+    Keys(c.keys);
+    EXPECT_EQ(Display(), c.display);
+    EXPECT_EQ(W().Get("ExponentText").Text(), c.exponent);
+  }
+  EXPECT_EQ(program.Globals().NoExponentFormat, "-#.##########");
+  EXPECT_EQ(program.Globals().SmallNegativeNumber, "-0.0000000001");
+}
+
+TEST_F(KeypadTest, FormatResultReformatsANumberInTheMiddleOfTyping) {
+  Keys("1.23456");
+  EXPECT_EQ(Display(), "1.23456");
+  program.Globals().RebuildFormats(2);
+  W().FormatResult(W().Result);
+  EXPECT_EQ(Display(), "1.23");
+}
+
+TEST_F(KeypadTest, PaddedRightAlignsToFourteenCharacters) {
+  EXPECT_EQ(W().Padded(5), std::string(13, ' ') + "5");
+  EXPECT_EQ(W().Padded(-0.125), std::string(8, ' ') + "-0.125");
+  EXPECT_EQ(W().Padded(1234567890123), " 1234567890123");
+  EXPECT_EQ(W().Padded(1.0 / 3), "0.3333333333333333");  // longer: stands alone
+  EXPECT_EQ(W().Padded(INFINITY), std::string(11, ' ') + "INF");
+}
+
+TEST_F(KeypadTest, TheUnusedHelpersKeepTheirRules) {
+  EXPECT_EQ(W().ConvertPreciseResult(0.25), "0.25");
+  EXPECT_EQ(W().ConvertPreciseResult(2.0 / 3), "6.66666667e-1");  // CStr is 18 characters
+  EXPECT_EQ(W().ConvertPreciseResult(1e20), "1.e+20");
+  EXPECT_EQ(W().ConvertPreciseResult(1234567890123.0), "1.23456789e+12");
+  EXPECT_FALSE(W().ParseResult("12"));
+  EXPECT_TRUE(W().IsDigit("7"));
+  EXPECT_TRUE(W().IsDigit("."));
+  EXPECT_TRUE(W().IsDigit("5abc"));  // by string order
+  EXPECT_FALSE(W().IsDigit("a"));
+  EXPECT_TRUE(W().IsHex("00fF"));
+  EXPECT_TRUE(W().IsHex(""));
+  EXPECT_FALSE(W().IsHex("0x1"));
+}
+
+TEST_F(KeypadTest, TheErrorStateListHasEveryControlOnceInOrder) {
+  const auto& list = W().ErrorStateControls();
+  ASSERT_EQ(list.size(), 59u);
+  EXPECT_EQ(list.front()->Name(), "ButtonPercent");
+  EXPECT_EQ(list[43]->FullName(), "UnitsRadio(0)");
+  EXPECT_EQ(list.back()->Name(), "TrigGroupBoxLabel");
+  for (std::size_t i = 0; i < list.size(); ++i)
+    for (std::size_t j = i + 1; j < list.size(); ++j) EXPECT_NE(list[i], list[j]);
+}
+
+TEST_F(KeypadTest, EnteringTheErrorStateAgainReplacesTheMessage) {
+  Keys("1/0=");
+  EXPECT_EQ(W().Get("MessageText").Text(), "Error: Overflow.");
+  W().ErrorHasOccurred(true, "Error: Not a positive integer.");
+  EXPECT_EQ(W().Get("MessageText").Text(), "Error: Not a positive integer.");
+  W().ErrorHasOccurred(false, "ignored");
+  EXPECT_FALSE(W().Get("MessageText").Visible());
+  EXPECT_EQ(Display(), "Error.");  // leaving does not touch the display
+}
+
+}  // namespace
+}  // namespace tessarine
