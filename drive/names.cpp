@@ -10,7 +10,9 @@ namespace tessarine::drive {
 
 namespace {
 
-bool IsWindowName(const std::string& name) { return StrEq(name, "CalcWindow"); }
+bool IsWindowName(const std::string& name) {
+  return StrEq(name, "CalcWindow") || StrEq(name, "ProgressBarWindow");
+}
 
 // "Name(12)" -> Name and 12; "Name" -> Name and -1.
 void SplitIndex(const std::string& text, std::string& name, int& index) {
@@ -29,6 +31,8 @@ void SplitIndex(const std::string& text, std::string& name, int& index) {
 }  // namespace
 
 Window& FindWindow(Program& program, const std::string& name) {
+  if (Window* window = program.FindOpenWindow(name); window && !StrEq(name, "CalcWindow"))
+    return *window;
   if (StrEq(name, "CalcWindow")) {
     if (CalcWindow* window = program.ExistingCalcWindow(); window && window->IsOpen())
       return *window;

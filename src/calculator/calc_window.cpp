@@ -87,12 +87,45 @@ void CalcWindow::WireHandlers() {
       {"ButtonChangeSign", &CalcWindow::ButtonChangeSignAction},
       {"ButtonExp", &CalcWindow::ButtonExpAction},
       {"ButtonSciNotation", &CalcWindow::ButtonSciNotationAction},
+      {"ButtonSquareRoot", &CalcWindow::ButtonSquareRootAction},
+      {"ButtonCubeRoot", &CalcWindow::ButtonCubeRootAction},
+      {"ButtonSquared", &CalcWindow::ButtonSquaredAction},
+      {"ButtonCubed", &CalcWindow::ButtonCubedAction},
+      {"ButtonOneOverX", &CalcWindow::ButtonOneOverXAction},
+      {"Buttonln", &CalcWindow::ButtonlnAction},
+      {"ButtonLog", &CalcWindow::ButtonLogAction},
+      {"ButtonTenToTheX", &CalcWindow::ButtonTenToTheXAction},
+      {"ButtoneToTheX", &CalcWindow::ButtoneToTheXAction},
+      {"ButtonRound", &CalcWindow::ButtonRoundAction},
+      {"ButtonRoundDown", &CalcWindow::ButtonRoundDownAction},
+      {"ButtonRoundUp", &CalcWindow::ButtonRoundUpAction},
+      {"ButtonRandom", &CalcWindow::ButtonRandomAction},
+      {"Buttonpi", &CalcWindow::ButtonpiAction},
+      {"ButtonXtotheY", &CalcWindow::ButtonXtotheYAction},
+      {"ButtonNthRoot", &CalcWindow::ButtonNthRootAction},
+      {"ButtonLogBasen", &CalcWindow::ButtonLogBasenAction},
+      {"ButtonDeltaPercent", &CalcWindow::ButtonDeltaPercentAction},
+      {"ButtonSine", &CalcWindow::ButtonSineAction},
+      {"ButtonCosine", &CalcWindow::ButtonCosineAction},
+      {"ButtonTangent", &CalcWindow::ButtonTangentAction},
+      {"ButtonArcSine", &CalcWindow::ButtonArcSineAction},
+      {"ButtonArcCosine", &CalcWindow::ButtonArcCosineAction},
+      {"ButtonArcTangent", &CalcWindow::ButtonArcTangentAction},
+      {"ButtonFactorial", &CalcWindow::ButtonFactorialAction},
+      {"CombinationsButton", &CalcWindow::CombinationsButtonAction},
+      {"PermutationsButton", &CalcWindow::PermutationsButtonAction},
+      {"ButtonStatsInput", &CalcWindow::ButtonStatsInputAction},
+      {"ButtonStatsDel", &CalcWindow::ButtonStatsDelAction},
+      {"ShowAdvancedFeaturesButton", &CalcWindow::ButtonShowAdvancedFeaturesAction},
   };
   for (const auto& [name, method] : keys) {
     auto action = method;
     Get(name).events.Action = [this, action] { (this->*action)(); };
   }
+  for (int index : {0, 1})
+    Item("UnitsRadio", index).events.Action = [this, index] { UnitsRadio_Action(index); };
   StartupMessageTimer.Action = [this] { StartupMessageTimer_Action(); };
+  ToggleTrigButtonsTimer.Action = [this] { ToggleTrigButtonsTimer_Action(); };
 }
 
 // Opening the window: the keypad's start state, the mode's size, and the
@@ -147,6 +180,7 @@ std::optional<CalcWindow::FieldValue> CalcWindow::FieldByName(std::string_view n
       {"TrigButtonNormalCaptions", [this] { return FieldValue{TrigButtonNormalCaptions}; }},
       {"UseESCforClear", [this] { return FieldValue{UseESCforClear}; }},
       {"ShowAdvancedFeatures", [this] { return FieldValue{ShowAdvancedFeatures}; }},
+      {"LongCalculationAborted", [this] { return FieldValue{LongCalculationAborted}; }},
   };
   for (const auto& [field, read] : fields)
     if (StrEq(field, name)) return read();

@@ -57,6 +57,7 @@ class CalcWindow final : public Window {
   bool TrigButtonNormalCaptions = true;
   bool UseESCforClear = false;
   bool ShowAdvancedFeatures = false;
+  bool LongCalculationAborted = false;  // the abort chord ended a loop; swallow its period
 
   // --- Keys ---------------------------------------------------------------
   void KeyType(int digit);
@@ -83,6 +84,56 @@ class CalcWindow final : public Window {
   void ButtonExpAction();
   void ButtonSciNotationAction();
   void Calculate();
+
+  // Function keys of one operand (function_keys.cpp).
+  void ButtonSquareRootAction();
+  void ButtonCubeRootAction();
+  void ButtonSquaredAction();
+  void ButtonCubedAction();
+  void ButtonOneOverXAction();
+  void ButtonlnAction();
+  void ButtonLogAction();
+  void ButtonTenToTheXAction();
+  void ButtoneToTheXAction();
+  void ButtonRoundAction();
+  void ButtonRoundDownAction();
+  void ButtonRoundUpAction();
+  void ButtonRandomAction();
+  void ButtonpiAction();
+  // Function keys of two operands, finished by Calculate.
+  void ButtonXtotheYAction();
+  void ButtonNthRootAction();
+  void ButtonLogBasenAction();
+  void ButtonDeltaPercentAction();
+
+  // Trigonometry (trigonometry_keys.cpp).
+  void ButtonSineAction();
+  void ButtonCosineAction();
+  void ButtonTangentAction();
+  void ButtonArcSineAction();
+  void ButtonArcCosineAction();
+  void ButtonArcTangentAction();
+  void UnitsRadio_Action(int index);
+  void ToggleTrigButtonsTimer_Action();
+
+  // Factorial and combinatorics (combinatorics.cpp).
+  void ButtonFactorialAction();
+  void CombinationsButtonAction();
+  void PermutationsButtonAction();
+
+  // Keys of other tabs that the keyboard reaches.
+  void ButtonStatsInputAction();
+  void ButtonStatsDelAction();
+  void ButtonShowAdvancedFeaturesAction();
+  void ToggleAdvancedFeatures();
+
+  // Shows a key going down and up for 7 ticks, yielding meanwhile; runs no action,
+  // except on a plain push button, whose Push raises its action.
+  void Push(Control& key);
+
+  // The keyboard map (keyboard_map.cpp): a key that no focused field took, as
+  // text. Always returns false.
+  bool Event_KeyDown(const std::string& key) override;
 
   // --- The display --------------------------------------------------------
   void UpdateDisplay();
@@ -122,6 +173,13 @@ class CalcWindow final : public Window {
 
  private:
   bool MakeControls();
+  enum class KeyFlag { None, ClearDisplay, ClearDisplay2 };
+  void RunOneOperandKey(const char* tape, double (*function)(double), KeyFlag flag,
+                        const char* speech);
+  void ArmTwoOperandFunction(const char* tape, const char* function, const char* speech);
+  bool InRadians();
+  void TrigEndingSineTangent();
+  void TrigEndingArc();
   void DigitKey(int digit);
   void WireHandlers();
   void PlayErrorSound();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cmath>
+#include <cstdint>
 
 namespace tessarine {
 
@@ -22,5 +23,18 @@ inline double Floor(double x) { return std::floor(x); }
 inline double Ceil(double x) { return std::ceil(x); }
 // Nearest whole number; a tie goes away from zero.
 inline double Round(double x) { return std::round(x); }
+
+}  // namespace tessarine
+
+namespace tessarine {
+
+// A float assigned to an integer keeps its whole part. Out of range saturates,
+// and not-a-number gives 0, rather than the undefined behaviour of a bare cast.
+inline std::int64_t WholePart(double x) {
+  if (std::isnan(x)) return 0;
+  if (x >= 9.2e18) return INT64_MAX;
+  if (x <= -9.2e18) return INT64_MIN;
+  return static_cast<std::int64_t>(x);
+}
 
 }  // namespace tessarine

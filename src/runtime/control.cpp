@@ -59,6 +59,7 @@ Control::Control(Window& owner, const ControlSpec& spec)
       tab_page_(spec.tab_page),
       panel_page_(spec.panel_page),
       text_(spec.text),
+      value_(spec.value),
       rows_(spec.rows),
       visible_(spec.visible),
       text_color_(spec.text_color),
@@ -114,6 +115,12 @@ void Control::SetValue(int value) {
     default:
       break;
   }
+}
+
+void Control::SetMaximum(int maximum) {
+  if (maximum == maximum_) return;
+  maximum_ = maximum;
+  Notify(Property::Maximum);
 }
 
 void Control::AddRow(std::string row) {

@@ -61,6 +61,7 @@ enum class Property {
   TextColor,
   TextSize,
   Bounds,
+  Maximum,
 };
 
 // Where and what a control is when its window is made: one row of a window's
@@ -77,6 +78,7 @@ struct ControlSpec {
   int panel_page = 0;  // 1-based page of an inner page panel, 0 for none
   bool visible = true;
   std::uint32_t text_color = 0;  // 0xRRGGBB
+  int value = 0;                 // design value: a radio button on, a panel's page
 };
 
 struct ControlEvents {
@@ -120,6 +122,10 @@ class Control {
   bool IsDown() const { return value_ != 0; }
   void SetValue(int value);
   void SetValue(bool value) { SetValue(value ? 1 : 0); }
+
+  // A progress bar's full value.
+  int Maximum() const { return maximum_; }
+  void SetMaximum(int maximum);
 
   const std::vector<std::string>& Rows() const { return rows_; }
   void AddRow(std::string row);
@@ -171,7 +177,8 @@ class Control {
   int tab_page_;
   int panel_page_;
   std::string text_;
-  int value_ = 0;
+  int value_;
+  int maximum_ = 100;
   std::vector<std::string> rows_;
   int list_index_ = -1;
   bool enabled_ = true;

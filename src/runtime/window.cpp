@@ -82,6 +82,12 @@ void Window::Close() {
   for (const auto& timer : timers_) timer->SetMode(Timer::kOff);
 }
 
+bool Window::KeyDown(const std::string& key) {
+  bool handled = false;
+  Dispatch("Event_KeyDown", [&] { handled = Event_KeyDown(key); });
+  return handled;
+}
+
 void Window::SetBounds(int left, int top, int width, int height) {
   if (left == left_ && top == top_ && width == width_ && height == height_) return;
   left_ = left;

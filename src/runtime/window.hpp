@@ -51,6 +51,9 @@ class Window {
   int Height() const { return height_; }
   void SetBounds(int left, int top, int width, int height);
 
+  // A key typed while no text field has the focus.
+  bool KeyDown(const std::string& key);
+
   // Runs one event handler. Faults escaping the outermost handler are reported
   // and swallowed; inside a nested event they travel on to the outer handler.
   void Dispatch(std::string_view handler_name, const std::function<void()>& handler);
@@ -64,6 +67,7 @@ class Window {
  protected:
   virtual void Event_Open() {}
   virtual void Event_Close() {}
+  virtual bool Event_KeyDown(const std::string&) { return false; }
 
   Platform& platform_;
 

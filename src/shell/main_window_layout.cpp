@@ -189,9 +189,13 @@ const std::vector<ControlSpec>& MainWindowControls() {
       Row("ExpressionResult", -1, K::Label, "Rectangle11", {246, 211, 145, 18}, "", {}, 5, 0, true, 0),
       Row("ClearExpressionButton", -1, K::PushButton, "CalcTabSelector", {402, 209, 80, 20}, "Clear", {}, 5, 0, true, 0),
     };
-    // The tab panel's rows are its page captions.
-    for (ControlSpec& spec : table)
-      if (spec.name == "CalcTabSelector") spec.rows.assign(std::begin(kTabCaptions), std::end(kTabCaptions));
+    for (ControlSpec& spec : table) {
+      // The tab panel's rows are its page captions.
+      if (spec.name == "CalcTabSelector")
+        spec.rows.assign(std::begin(kTabCaptions), std::end(kTabCaptions));
+      // Radians are on at start.
+      if (spec.name == "UnitsRadio" && spec.index == 0) spec.value = 1;
+    }
     return table;
   }();
   return controls;

@@ -1,6 +1,8 @@
 #include "shell/program.hpp"
 
 #include "calculator/calc_window.hpp"
+#include "calculator/progress_bar_window.hpp"
+#include "runtime/text.hpp"
 
 namespace tessarine {
 
@@ -17,6 +19,28 @@ CalcWindow& Program::GetCalcWindow() {
     calc_window_->Open();
   }
   return *calc_window_;
+}
+
+ProgressBarWindow& Program::ShowProgressBarWindow() {
+  if (!progress_bar_window_ || !progress_bar_window_->IsOpen()) {
+    progress_bar_window_ = std::make_unique<ProgressBarWindow>(platform_);
+    progress_bar_window_->Open();
+    platform_.desktop.ShowWindow(progress_bar_window_->Name(), true);
+  }
+  return *progress_bar_window_;
+}
+
+void Program::CloseProgressBarWindow() {
+  if (!progress_bar_window_ || !progress_bar_window_->IsOpen()) return;
+  progress_bar_window_->Close();
+  platform_.desktop.CloseWindow(progress_bar_window_->Name());
+}
+
+Window* Program::FindOpenWindow(std::string_view name) {
+  Window* windows[] = {calc_window_.get(), progress_bar_window_.get()};
+  for (Window* window : windows)
+    if (window && window->IsOpen() && StrEq(window->Name(), name)) return window;
+  return nullptr;
 }
 
 }  // namespace tessarine

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 
 #include "runtime/platform/platform.hpp"
 #include "runtime/random_source.hpp"
@@ -14,6 +15,8 @@
 namespace tessarine {
 
 class CalcWindow;
+class ProgressBarWindow;
+class Window;
 
 class Program {
  public:
@@ -34,11 +37,19 @@ class Program {
   // The main window if it exists, without making it.
   CalcWindow* ExistingCalcWindow() { return calc_window_.get(); }
 
+  // The progress sheet of long calculations, shown over the main window.
+  ProgressBarWindow& ShowProgressBarWindow();
+  void CloseProgressBarWindow();
+
+  // An open window by name, or nullptr.
+  Window* FindOpenWindow(std::string_view name);
+
  private:
   Platform& platform_;
   GlobalStuff globals_;
   RandomSource random_;
   std::unique_ptr<CalcWindow> calc_window_;
+  std::unique_ptr<ProgressBarWindow> progress_bar_window_;
 };
 
 }  // namespace tessarine

@@ -65,7 +65,8 @@ class HeadlessPlatform final : private Clock,
   std::string ShortTime(const CivilTime& t) const override;
   // KeyboardState
   bool AsyncControlKey() const override { return held_.count("ctrl") > 0; }
-  bool AsyncCommandKey() const override { return held_.count("cmd") > 0; }
+  // On Linux the Ctrl key plays the Command key's part too (docs/keyboard.md).
+  bool AsyncCommandKey() const override { return held_.count("cmd") + held_.count("ctrl") > 0; }
   bool AsyncOptionKey() const override { return held_.count("alt") > 0; }
   bool AsyncShiftKey() const override { return held_.count("shift") > 0; }
   bool AsyncKeyDown(int code) const override;
