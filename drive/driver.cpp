@@ -4,6 +4,7 @@
 
 #include "calculator/calc_window.hpp"
 #include "json_text.hpp"
+#include "keyboard_commands.hpp"
 #include "names.hpp"
 #include "properties.hpp"
 
@@ -46,6 +47,7 @@ Driver::Driver(const DriverOptions& options)
   AddControlCommands();
   AddPlatformCommands();
   program_.Start();
+  AddKeyboardCommands(*this);
 }
 
 void Driver::RunLine(const std::string& line, std::ostream& out) {
@@ -110,6 +112,37 @@ void Driver::AddPlatformCommands() {
     if (ec != std::errc() || end != s.data() + s.size() || ms < 0 || ms > 1000LL * 86400 * 365)
       throw ScriptError("wait takes milliseconds, got " + s);
     platform_.Wait(ms);
+  });
+  AddCommand("after", [this](const std::vector<Word>& args, std::ostream& out) {
+    if (args.size() < 2) throw ScriptError("usage: after MS COMMAND...");
+    long long ms = 0;
+    const std::string& s = args[0].text;
+    auto [end, ec] = std::from_chars(s.data(), s.data() + s.size(), ms);
+    if (ec != std::errc() || end != s.data() + s.size() || ms < 0)
+      throw ScriptError("after takes milliseconds, got " + s);
+    const auto command = commands_.find(args[1].text);
+    if (args[1].quoted || command == commands_.end())
+      throw ScriptError("unknown command " + args[1].text);
+    // The command runs later, inside whatever the program is doing then; a script
+    // error there can only be reported, not stop the script at its line.
+    std::vector<Word> rest(args.begin() + 2, args.end());
+    Command run = command->second;
+    platform_.After(ms, [run, rest, &out] {
+      try {
+        run(rest, out);
+      } catch (const ScriptError& error) {
+        out << "after: " << error.what() << '\n';
+      }
+    });
+  });
+  AddCommand("clockrate", [this](const std::vector<Word>& args, std::ostream&) {
+    ExpectArgs(args, 1, 1, "clockrate US");
+    long long us = 0;
+    const std::string& s = args[0].text;
+    auto [end, ec] = std::from_chars(s.data(), s.data() + s.size(), us);
+    if (ec != std::errc() || end != s.data() + s.size() || us < 0 || us > 1000000000LL)
+      throw ScriptError("clockrate takes microseconds per clock read, got " + s);
+    platform_.SetClockRate(us);
   });
   for (const bool down : {true, false}) {
     AddCommand(down ? "hold" : "release", [this, down](const std::vector<Word>& args,

@@ -1,5 +1,6 @@
 #include "runtime/headless/headless_platform.hpp"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "runtime/platform/keyboard_state.hpp"
@@ -53,8 +54,24 @@ void HeadlessPlatform::Arm(Timer& timer, std::int64_t period_ms) {
 
 void HeadlessPlatform::Disarm(Timer& timer) { timers_.erase(&timer); }
 
+void HeadlessPlatform::After(std::int64_t ms, std::function<void()> action) {
+  actions_.emplace(now_us_ + ms * 1000, std::move(action));
+}
+
 void HeadlessPlatform::FireDue(std::int64_t until_us) {
   for (;;) {
+    // A user's action due before the next timer goes first.
+    if (!actions_.empty() && actions_.begin()->first <= until_us) {
+      std::int64_t first_timer = INT64_MAX;
+      for (const auto& entry : timers_) first_timer = std::min(first_timer, entry.second.due_us);
+      if (actions_.begin()->first <= first_timer) {
+        auto action = std::move(actions_.begin()->second);
+        if (actions_.begin()->first > now_us_) now_us_ = actions_.begin()->first;
+        actions_.erase(actions_.begin());
+        action();
+        continue;
+      }
+    }
     Timer* next = nullptr;
     Scheduled when{0, 0, 0};
     for (const auto& [timer, scheduled] : timers_) {

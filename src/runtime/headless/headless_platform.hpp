@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -43,7 +44,14 @@ class HeadlessPlatform final : private Clock,
 
   // Advances virtual time by ms milliseconds, firing due timers in order.
   void Wait(std::int64_t ms);
+  // Lets the clock run inside a handler: every read of the clock advances virtual
+  // time by this many microseconds (0, the default, stops it). Timers still fire
+  // only at a yield or a wait.
+  void SetClockRate(std::int64_t microseconds_per_read) { clock_rate_us_ = microseconds_per_read; }
   std::int64_t NowMicroseconds() const { return now_us_; }
+  // Runs `action` once virtual time has advanced by ms from now, at a wait or a
+  // yield: a user acting while the program is busy.
+  void After(std::int64_t ms, std::function<void()> action);
 
   // Keys held from now on, by name: "ctrl", "alt", "shift", "cmd", "period".
   // Returns false for an unknown name.
@@ -58,8 +66,9 @@ class HeadlessPlatform final : private Clock,
 
  private:
   // Clock
-  std::int64_t Ticks() const override { return now_us_ * 60 / 1000000; }
-  std::int64_t Microseconds() const override { return now_us_; }
+  std::int64_t Ticks() const override { return Read() * 60 / 1000000; }
+  std::int64_t Microseconds() const override { return Read(); }
+  std::int64_t Read() const { return now_us_ += clock_rate_us_; }
   CivilTime Now() const override;
   std::string ShortDate(const CivilTime& t) const override;
   std::string ShortTime(const CivilTime& t) const override;
@@ -101,9 +110,11 @@ class HeadlessPlatform final : private Clock,
     std::int64_t period_us;
   };
   Platform platform_;
-  std::int64_t now_us_ = 0;
+  mutable std::int64_t now_us_ = 0;
+  std::int64_t clock_rate_us_ = 0;
   std::uint64_t next_sequence_ = 0;
   std::map<Timer*, Scheduled> timers_;
+  std::multimap<std::int64_t, std::function<void()>> actions_;  // by due time
   std::set<std::string> held_;
   std::optional<std::string> clipboard_;
   std::vector<PlatformEvent> events_;
