@@ -7,6 +7,10 @@
 #include "runtime/arithmetic.hpp"
 #include "shell/program.hpp"
 
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
 namespace tessarine {
 
 void CalcWindow::ButtonFactorialAction() {
@@ -50,11 +54,48 @@ void CalcWindow::PermutationsButtonAction() {
 
 namespace {
 
-// Moves the bar only when its whole value grows: at most 500 updates in all.
-void AdvanceBar(Control* bar, double progress) {
-  const float p = static_cast<float>(progress);
-  if (bar->Value() < Floor(p)) bar->SetValue(static_cast<int>(WholePart(p)));
-}
+// The progress bar of one loop of C(n,k). The bar's whole value is tested against
+// p(i), which grows with i; rather than evaluate p at every round, the bar works out
+// the first round at which Floor(p) exceeds its value, evaluating p there exactly as
+// a test at every round would, so it moves at the same rounds for a fraction of the
+// cost: at most 500 moves in all.
+class LoopProgress {
+ public:
+  // p(i) = (i - offset) / span * 250 + base, as a 32-bit float.
+  LoopProgress(Control* bar, double offset, double span, double base, std::int64_t last)
+      : bar_(bar), offset_(offset), span_(span), base_(base), last_(last) {}
+
+  // Called at round i; cheap unless the bar moves here.
+  void At(std::int64_t i) {
+    if (!bar_ || i < next_) return;
+    const float p = P(i);
+    if (bar_->Value() < Floor(p)) bar_->SetValue(static_cast<int>(WholePart(p)));
+    next_ = NextMove(i);
+  }
+
+ private:
+  float P(std::int64_t i) const {
+    return static_cast<float>((static_cast<double>(i) - offset_) / span_ * 250 + base_);
+  }
+  bool Moves(std::int64_t i) const { return bar_->Value() < Floor(P(i)); }
+
+  // The first round after i at which the bar moves; past the last round if none.
+  std::int64_t NextMove(std::int64_t i) const {
+    const double target = bar_->Value() + 1;
+    double guess = std::ceil((target - base_) / 250 * span_ + offset_);
+    std::int64_t j = guess <= static_cast<double>(i) ? i + 1
+                     : guess > static_cast<double>(last_) ? last_ + 1
+                                                            : static_cast<std::int64_t>(guess);
+    while (j > i + 1 && Moves(j - 1)) --j;  // p is rounded: the guess may be late...
+    while (j <= last_ && !Moves(j)) ++j;    // ...or early, by a round or two
+    return j;
+  }
+
+  Control* bar_;
+  double offset_, span_, base_;
+  std::int64_t last_;
+  std::int64_t next_ = INT64_MIN;
+};
 
 }  // namespace
 
@@ -68,12 +109,15 @@ double CalcWindow::ComputeCombinations() {
     bar->SetValue(1);
     bar->SetMaximum(500);
   }
+  const std::int64_t last_i = WholePart(std::min(n, 9.2e18));
 
+  // First loop: p = (i - k + 1) / (n - k + 1) x 250.
+  LoopProgress first(bar, k - 1, n - k + 1, 0, last_i);
   double a = 0;
   for (std::int64_t i = WholePart(k + 1); i <= n; ++i) {
     a += Log(static_cast<double>(i));
     if (bar) {
-      AdvanceBar(bar, (static_cast<double>(i) - k + 1) / (n - k + 1) * 250);
+      first.At(i);
       if (loop.AbortChordDown()) {
         LongCalculationAborted = true;
         program_.CloseProgressBarWindow();
@@ -83,11 +127,13 @@ double CalcWindow::ComputeCombinations() {
     }
   }
 
+  // Second loop: p = (j - 1) / (n - k - 1) x 250 + 250.
+  LoopProgress second(bar, 1, n - k - 1, 250, WholePart(std::min(n - k, 9.2e18)));
   double b = 0;
   for (std::int64_t j = 1; j <= n - k; ++j) {
     b += Log(static_cast<double>(j));
     if (bar) {
-      AdvanceBar(bar, (static_cast<double>(j) - 1) / (n - k - 1) * 250 + 250);
+      second.At(j);
       if (loop.AbortChordDown()) {
         // Unlike the first loop, this one leaves LongCalculationAborted alone: the
         // period of the chord then arrives as a decimal point.

@@ -34,17 +34,24 @@ std::string HeadlessPlatform::ShortTime(const CivilTime& t) const {
   return text;
 }
 
-bool HeadlessPlatform::AsyncKeyDown(int code) const {
-  return code == kPeriodKeyCode && held_.count("period") > 0;
-}
-
 bool HeadlessPlatform::Hold(const std::string& key, bool down) {
-  if (key != "ctrl" && key != "alt" && key != "shift" && key != "cmd" && key != "period")
-    return false;
-  if (down)
-    held_.insert(key);
+  Held held = CurrentHeld();
+  if (key == "ctrl")
+    ctrl_ = down;
+  else if (key == "cmd")
+    cmd_ = down;
+  else if (key == "alt")
+    held.option = down;
+  else if (key == "shift")
+    held.shift = down;
+  else if (key == "period")
+    held.period = down;
   else
-    held_.erase(key);
+    return false;
+  // On Linux the Ctrl key plays the Command key's part too.
+  held.control = ctrl_;
+  held.command = ctrl_ || cmd_;
+  SetHeld(held);
   return true;
 }
 

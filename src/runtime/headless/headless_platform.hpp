@@ -10,7 +10,6 @@
 #include <functional>
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -72,14 +71,6 @@ class HeadlessPlatform final : private Clock,
   CivilTime Now() const override;
   std::string ShortDate(const CivilTime& t) const override;
   std::string ShortTime(const CivilTime& t) const override;
-  // KeyboardState
-  bool AsyncControlKey() const override { return held_.count("ctrl") > 0; }
-  // On Linux the Ctrl key plays the Command key's part too (docs/keyboard.md).
-  bool AsyncCommandKey() const override { return held_.count("cmd") + held_.count("ctrl") > 0; }
-  bool AsyncOptionKey() const override { return held_.count("alt") > 0; }
-  bool AsyncShiftKey() const override { return held_.count("shift") > 0; }
-  bool AsyncKeyDown(int code) const override;
-  bool OptionKey() const override { return AsyncOptionKey(); }
   // TimerHost
   void Arm(Timer& timer, std::int64_t period_ms) override;
   void Disarm(Timer& timer) override;
@@ -115,7 +106,7 @@ class HeadlessPlatform final : private Clock,
   std::uint64_t next_sequence_ = 0;
   std::map<Timer*, Scheduled> timers_;
   std::multimap<std::int64_t, std::function<void()>> actions_;  // by due time
-  std::set<std::string> held_;
+  bool ctrl_ = false, cmd_ = false;
   std::optional<std::string> clipboard_;
   std::vector<PlatformEvent> events_;
   bool quit_ = false;
