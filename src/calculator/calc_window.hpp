@@ -131,6 +131,14 @@ class CalcWindow final : public Window {
   // except on a plain push button, whose Push raises its action.
   void Push(Control& key);
 
+  // Menus (edit_menu.cpp).
+  void Event_EnableMenuItems(MenuBar& bar) override;
+  bool HandleMenuCommand(MenuBar& bar, std::string_view name, int index) override;
+  void _EditCopy_Action();
+  void _EditPaste_Action();
+  void _EditClear_Action();
+  void _MenuConstant_Action(int index);
+
   // The keyboard map (keyboard_map.cpp): a key that no focused field took, as
   // text. Always returns false.
   bool Event_KeyDown(const std::string& key) override;

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "runtime/control.hpp"
+#include "runtime/menu_bar.hpp"
 #include "runtime/platform/platform.hpp"
 #include "runtime/timer.hpp"
 
@@ -50,6 +51,13 @@ class Window {
   int Width() const { return width_; }
   int Height() const { return height_; }
   void SetBounds(int left, int top, int width, int height);
+
+  // Menus, while this window is frontmost: its enabling rules, and its handler of
+  // a menu command by item name (false: the window has none, the application's runs).
+  virtual void Event_EnableMenuItems(MenuBar&) {}
+  virtual bool HandleMenuCommand(MenuBar&, std::string_view /*name*/, int /*index*/) {
+    return false;
+  }
 
   // A key typed while no text field has the focus.
   bool KeyDown(const std::string& key);

@@ -3,6 +3,7 @@
 #include "calculator/calc_window.hpp"
 #include "calculator/progress_bar_window.hpp"
 #include "runtime/text.hpp"
+#include "shell/tessarine_app.hpp"
 
 namespace tessarine {
 
@@ -11,7 +12,12 @@ Program::Program(Platform& platform, std::uint64_t random_seed)
 
 Program::~Program() = default;
 
-void Program::Start() { GetCalcWindow(); }
+void Program::Start() {
+  // The application object and its menu bar first, then the main window, whose
+  // opening starts the session.
+  app_ = std::make_unique<TessarineApp>(*this);
+  GetCalcWindow();
+}
 
 CalcWindow& Program::GetCalcWindow() {
   if (!calc_window_ || !calc_window_->IsOpen()) {

@@ -15,6 +15,7 @@
 namespace tessarine {
 
 class CalcWindow;
+class TessarineApp;
 class ProgressBarWindow;
 class Window;
 
@@ -32,6 +33,12 @@ class Program {
   GlobalStuff& Globals() { return globals_; }
   RandomSource& Random() { return random_; }
 
+  // The application object, with the menu bar; made by Start.
+  TessarineApp& App() { return *app_; }
+
+  // Whether the tape's text changed since it was last saved.
+  bool TapeChanged = false;
+
   // The main window, opened if it is not.
   CalcWindow& GetCalcWindow();
   // The main window if it exists, without making it.
@@ -48,6 +55,7 @@ class Program {
   Platform& platform_;
   GlobalStuff globals_;
   RandomSource random_;
+  std::unique_ptr<TessarineApp> app_;
   std::unique_ptr<CalcWindow> calc_window_;
   std::unique_ptr<ProgressBarWindow> progress_bar_window_;
 };

@@ -1,0 +1,48 @@
+#include "runtime/menu_bar.hpp"
+
+#include "runtime/exceptions.hpp"
+#include "runtime/text.hpp"
+
+namespace tessarine {
+
+void MenuBar::AddMenu(Menu menu) {
+  menus_.push_back(std::move(menu));
+  Notify(nullptr);
+}
+
+MenuItem* MenuBar::Find(std::string_view name, int index) {
+  for (Menu& menu : menus_)
+    for (MenuItem& item : menu.items)
+      if (StrEq(item.name, name) && (index < 0 || item.index == index)) return &item;
+  return nullptr;
+}
+
+MenuItem& MenuBar::Item(std::string_view name, int index) {
+  MenuItem* item = Find(name, index);
+  if (!item) throw NilObjectException("no menu item " + std::string(name));
+  return *item;
+}
+
+void MenuBar::SetEnabled(MenuItem& item, bool enabled) {
+  if (item.enabled == enabled) return;
+  item.enabled = enabled;
+  Notify(&item);
+}
+
+void MenuBar::SetChecked(MenuItem& item, bool checked) {
+  if (item.checked == checked) return;
+  item.checked = checked;
+  Notify(&item);
+}
+
+void MenuBar::SetText(MenuItem& item, std::string text) {
+  if (item.text == text) return;
+  item.text = std::move(text);
+  Notify(&item);
+}
+
+void MenuBar::Notify(const MenuItem* item) {
+  for (const auto& observer : observers_) observer(item);
+}
+
+}  // namespace tessarine
