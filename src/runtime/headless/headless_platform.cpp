@@ -8,8 +8,9 @@
 
 namespace tessarine {
 
-HeadlessPlatform::HeadlessPlatform(std::string decimal_separator)
-    : platform_{*this, *this, *this, *this, *this, *this, std::move(decimal_separator)} {}
+HeadlessPlatform::HeadlessPlatform(std::string decimal_separator, FileSystem* files)
+    : platform_{*this,  *this, *this, *this, *this, *this, files ? *files : memory_files_,
+                std::move(decimal_separator)} {}
 
 CivilTime HeadlessPlatform::Now() const {
   // Virtual wall clock: a fixed moment plus the virtual time elapsed, so that

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "runtime/headless/memory_file_system.hpp"
 #include "runtime/platform/platform.hpp"
 
 namespace tessarine {
@@ -35,7 +36,9 @@ class HeadlessPlatform final : private Clock,
                                private Feedback,
                                private Desktop {
  public:
-  explicit HeadlessPlatform(std::string decimal_separator = ".");
+  // Files live in memory unless a real file system is given (the driver's
+  // --prefs-dir), so that tests never touch the user's own settings.
+  explicit HeadlessPlatform(std::string decimal_separator = ".", FileSystem* files = nullptr);
   HeadlessPlatform(const HeadlessPlatform&) = delete;
   HeadlessPlatform& operator=(const HeadlessPlatform&) = delete;
 
@@ -100,6 +103,7 @@ class HeadlessPlatform final : private Clock,
     std::uint64_t sequence;  // arming order breaks ties
     std::int64_t period_us;
   };
+  MemoryFileSystem memory_files_;
   Platform platform_;
   mutable std::int64_t now_us_ = 0;
   std::int64_t clock_rate_us_ = 0;

@@ -9,6 +9,7 @@
 #include "runtime/platform/clock.hpp"
 #include "runtime/platform/desktop.hpp"
 #include "runtime/platform/feedback.hpp"
+#include "runtime/platform/file_system.hpp"
 #include "runtime/platform/keyboard_state.hpp"
 #include "runtime/platform/timer_host.hpp"
 
@@ -21,6 +22,7 @@ struct Platform {
   Clipboard& clipboard;
   Feedback& feedback;
   Desktop& desktop;
+  FileSystem& files;
   // The user's decimal separator, read once from the system at start.
   std::string decimal_separator = ".";
 };

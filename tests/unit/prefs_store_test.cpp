@@ -1,0 +1,197 @@
+// The preferences file, byte for byte: each record type read from hand-made bytes,
+// the scrambling, the lossy number form, and the store's get-creates-with-default.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "runtime/headless/memory_file_system.hpp"
+#include "settings/prefs_module.hpp"
+#include "settings/prefs_records.hpp"
+#include "settings/prefs_scramble.hpp"
+
+namespace tessarine {
+namespace {
+
+std::string Bytes(std::initializer_list<int> values) {
+  std::string out;
+  for (int v : values) out.push_back(static_cast<char>(v));
+  return out;
+}
+
+// A record head: type, flag, 16-bit key length, key (scrambled when flag is 1).
+std::string Head(int type, bool scrambled, const std::string& key) {
+  return Bytes({type, scrambled ? 1 : 0, static_cast<int>(key.size() >> 8),
+                static_cast<int>(key.size() & 0xFF)}) +
+         (scrambled ? Encode(key) : key);
+}
+
+TEST(PrefsScramble, ShiftsByTheLengthWithOneCorrection) {
+  EXPECT_EQ(Encode("abc"), "def");
+  EXPECT_EQ(Encode(""), "");
+  // A 200-character key with a code of 100: 300 wraps to 44.
+  const std::string key(200, 'd');
+  EXPECT_EQ(Encode(key), std::string(200, ','));
+  EXPECT_EQ(Decode(Encode(key)), key);
+  // Every byte value survives, UTF-8 marks included.
+  std::string all;
+  for (int b = 0; b < 256; ++b) all.push_back(static_cast<char>(b));
+  EXPECT_EQ(Decode(Encode(all)), all);
+  EXPECT_EQ(Decode(Encode("π ÷ √")), "π ÷ √");
+}
+
+TEST(PrefsRecords, ReadsEveryRecordType) {
+  const std::string file =
+      Head(1, true, "On") + Bytes({1}) +                       // boolean, scrambled
+      Head(1, false, "Off") + Bytes({7}) +                     // any other byte is false
+      Head(2, false, "I32") + Bytes({0xFF, 0xFF, 0xFF, 0xFE}) +  // -2
+      Head(3, false, "B") + Bytes({200}) +                     // an unsigned byte
+      Head(4, false, "I16") + Bytes({0x01, 0x00}) +            // 256
+      Head(5, true, "Name") + Bytes({0, 5}) + Encode("Hello") +
+      Head(6, false, "Colour") + Bytes({255, 0, 128}) +
+      Head(7, true, "Pi") + Bytes({0, 0, 0, 3, 0, 0, 0, 14});  // 3 and 14: 3.14
+  const PrefsData data = ParsePrefsFile(file, ".");
+  ASSERT_EQ(data.booleans.size(), 2u);
+  EXPECT_EQ(data.booleans[0].key, "On");
+  EXPECT_TRUE(data.booleans[0].value);
+  EXPECT_TRUE(data.booleans[0].scrambled);
+  EXPECT_FALSE(data.booleans[1].value);
+  ASSERT_EQ(data.numbers.size(), 4u);
+  EXPECT_EQ(data.numbers[0].value, -2);
+  EXPECT_EQ(data.numbers[1].value, 200);
+  EXPECT_EQ(data.numbers[2].value, 256);
+  EXPECT_EQ(data.numbers[3].key, "Pi");
+  EXPECT_DOUBLE_EQ(data.numbers[3].value, 3.14);
+  ASSERT_EQ(data.strings.size(), 1u);
+  EXPECT_EQ(data.strings[0].value, "Hello");
+  ASSERT_EQ(data.colors.size(), 1u);
+  EXPECT_EQ(data.colors[0].value, Bytes({255, 0, 128}));
+}
+
+TEST(PrefsRecords, DamageYieldsWhatCouldBeRead) {
+  // An unknown type drops its key and skips no payload: the next byte starts a record.
+  const std::string unknown = Head(9, false, "X") + Head(1, false, "After") + Bytes({1});
+  const PrefsData a = ParsePrefsFile(unknown, ".");
+  ASSERT_EQ(a.booleans.size(), 1u);
+  EXPECT_EQ(a.booleans[0].key, "After");
+  // A string cut short keeps what was there.
+  const PrefsData b = ParsePrefsFile(Head(5, false, "S") + Bytes({0, 10}) + "abc", ".");
+  ASSERT_EQ(b.strings.size(), 1u);
+  EXPECT_EQ(b.strings[0].value, "abc");
+  // A number cut after its whole part reads a fraction of 0.
+  const PrefsData c = ParsePrefsFile(Head(7, false, "N") + Bytes({0, 0, 0, 9}), ".");
+  ASSERT_EQ(c.numbers.size(), 1u);
+  EXPECT_EQ(c.numbers[0].value, 9);
+  // A negative key length reads no key.
+  const PrefsData d = ParsePrefsFile(Bytes({1, 0, 0xFF, 0xFF, 1}), ".");
+  ASSERT_EQ(d.booleans.size(), 1u);
+  EXPECT_EQ(d.booleans[0].key, "");
+  EXPECT_TRUE(ParsePrefsFile("", ".").numbers.empty());
+}
+
+TEST(PrefsRecords, NumbersTravelAsTextAndLoseWhatTheFormLoses) {
+  struct Case {
+    double value, back;
+  };
+  const Case cases[] = {
+      {12.75, 12.75}, {0.05, 0.5},  // the fraction's leading zero is dropped
+      {-2.5, -3.5},                  // the whole part floored, the digits of the magnitude
+      {1000000, 1000000}, {0, 0}, {-7, -7},
+  };
+  for (const char* separator : {".", ","}) {
+    for (const Case& c : cases) {
+      SCOPED_TRACE(std::to_string(c.value) + " with " + separator);
+      PrefsData data;
+      data.numbers.push_back({"k", c.value, true});
+      const PrefsData back = ParsePrefsFile(SerializePrefsFile(data, separator), separator);
+      ASSERT_EQ(back.numbers.size(), 1u);
+      EXPECT_DOUBLE_EQ(back.numbers[0].value, c.back);
+    }
+  }
+}
+
+TEST(PrefsRecords, WritesFamiliesInOrderWithExactSizes) {
+  PrefsData data;
+  data.numbers.push_back({"n", 2, true});
+  data.booleans.push_back({"b", true, true});
+  data.strings.push_back({"s", "xy", true});
+  data.colors.push_back({"c", Bytes({1, 2, 3}), false});
+  const std::string file = SerializePrefsFile(data, ".");
+  // boolean 4+1+1, string 4+1+2+2, colour 4+1+3, number 4+1+8
+  EXPECT_EQ(file.size(), 6u + 9u + 8u + 13u);
+  EXPECT_EQ(file[0], kPrefsBoolean);
+  EXPECT_EQ(file[6], kPrefsString);
+  EXPECT_EQ(file[15], kPrefsColor);
+  EXPECT_EQ(file[23], kPrefsNumber);
+  EXPECT_EQ(file.substr(6, 9), Head(5, true, "s") + Bytes({0, 2}) + Encode("xy"));
+}
+
+class PrefsModuleTest : public ::testing::Test {
+ protected:
+  std::string File() { return *files.ReadFile("/memory/Tessarine/Tessarine4 Preferences"); }
+  MemoryFileSystem files;
+  PrefsModule prefs{files, "."};
+};
+
+TEST_F(PrefsModuleTest, GetBeforeOpeningReturnsTheDefaultAndCreatesNothing) {
+  EXPECT_EQ(prefs.GetNumberValue("NumOfDec", 6, true), 6);
+  EXPECT_TRUE(prefs.Data().numbers.empty());
+  prefs.SetBooleanValue("TapeOn", true, true);
+  EXPECT_TRUE(prefs.Data().booleans.empty());
+}
+
+TEST_F(PrefsModuleTest, AMissingKeyIsCreatedWithItsDefaultAndReachesTheFile) {
+  prefs.SetName("Tessarine4 Preferences", "PREF");
+  EXPECT_EQ(prefs.GetStringValue("StartWithTab", "Tab1", true), "Tab1");
+  EXPECT_EQ(prefs.GetStringValue("StartWithTab", "Other", false), "Tab1");  // stored wins
+  prefs.WriteOut();
+  PrefsModule again(files, ".");
+  again.SetName("Tessarine4 Preferences", "PREF");
+  ASSERT_EQ(again.Data().strings.size(), 1u);
+  EXPECT_EQ(again.Data().strings[0].value, "Tab1");
+  EXPECT_TRUE(again.Data().strings[0].scrambled);
+}
+
+TEST_F(PrefsModuleTest, KeysAreCaseSignificantAndSetOverwritesInPlace) {
+  prefs.SetName("Tessarine4 Preferences", "PREF");
+  prefs.SetNumberValue("Left", 1, true);
+  prefs.SetNumberValue("left", 2, true);
+  prefs.SetNumberValue("Left", 3, false);
+  ASSERT_EQ(prefs.Data().numbers.size(), 2u);
+  EXPECT_EQ(prefs.Data().numbers[0].value, 3);
+  EXPECT_FALSE(prefs.Data().numbers[0].scrambled);
+  // The families are separate name spaces.
+  prefs.SetStringValue("Left", "text", true);
+  EXPECT_EQ(prefs.GetNumberValue("Left", 0, true), 3);
+}
+
+TEST_F(PrefsModuleTest, DuplicatesInTheFileActOnTheFirst) {
+  files.WriteFileAtomically("/memory/Tessarine/Tessarine4 Preferences",
+                            Head(1, true, "K") + Bytes({1}) + Head(1, true, "K") + Bytes({1}));
+  prefs.SetName("Tessarine4 Preferences", "PREF");
+  EXPECT_TRUE(prefs.GetBooleanValue("K", false, true));
+  prefs.SetBooleanValue("K", false, true);
+  EXPECT_FALSE(prefs.Data().booleans[0].value);
+  EXPECT_TRUE(prefs.Data().booleans[1].value);  // the duplicate is carried, untouched
+  EXPECT_EQ(prefs.Data().booleans.size(), 2u);
+}
+
+TEST_F(PrefsModuleTest, OldNumberTypesAreRewrittenAsType7) {
+  files.WriteFileAtomically("/memory/Tessarine/Tessarine4 Preferences",
+                            Head(3, false, "B") + Bytes({42}));
+  prefs.SetName("Tessarine4 Preferences", "PREF");
+  prefs.WriteOut();
+  EXPECT_EQ(File(), Head(7, false, "B") + Bytes({0, 0, 0, 42, 0, 0, 0, 0}));
+}
+
+TEST_F(PrefsModuleTest, ASecondSetNameRereadsTheFirstFileAndDropsUnwrittenChanges) {
+  prefs.SetName("Tessarine4 Preferences", "PREF");
+  prefs.SetBooleanValue("Saved", true, true);
+  prefs.WriteOut();
+  prefs.SetBooleanValue("Unsaved", true, true);
+  prefs.SetName("Other Name", "XXXX");
+  EXPECT_EQ(prefs.Data().booleans.size(), 1u);
+  EXPECT_EQ(prefs.FilePath(), "/memory/Tessarine/Tessarine4 Preferences");
+}
+
+}  // namespace
+}  // namespace tessarine
