@@ -4,7 +4,8 @@
 #   make bench  build optimised and run the benchmarks
 #   make deps   only install the Debian packages the project needs
 
-PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenchmark-dev \
+PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenchmark-dev clang \
+            libclang-rt-14-dev \
             nlohmann-json3-dev
 
 SAN ?= 0
@@ -24,7 +25,7 @@ endif
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build test run bench clean
+.PHONY: all deps configure build test run bench fuzz clean
 
 all: build
 
@@ -61,5 +62,16 @@ bench: deps
 	@cmake --build build-release -j $(JOBS)
 	@build-release/bench/tessarine_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 
+# Fuzzes the preferences reader with libFuzzer for FUZZ_SECONDS (default 60); new
+# inputs that find new paths go to a scratch corpus, the saved one is only read.
+FUZZ_SECONDS ?= 60
+fuzz: deps
+	@cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
+	  -DTESSARINE_FUZZ=ON > build-fuzz.configure.log 2>&1 || { cat build-fuzz.configure.log; exit 1; }
+	@cmake --build build-fuzz -j $(JOBS) --target prefs_reader_fuzz
+	@mkdir -p build-fuzz/corpus
+	@build-fuzz/tests/fuzz/prefs_reader_fuzz -max_total_time=$(FUZZ_SECONDS) -max_len=4096 \
+	  build-fuzz/corpus tests/fuzz/corpus/prefs_reader
+
 clean:
-	rm -rf build build-san build-release *.configure.log
+	rm -rf build build-san build-release build-fuzz *.configure.log
