@@ -5,6 +5,7 @@
 #include "calculator/calc_window.hpp"
 #include "json_text.hpp"
 #include "keyboard_commands.hpp"
+#include "menu_commands.hpp"
 #include "names.hpp"
 #include "properties.hpp"
 
@@ -48,6 +49,7 @@ Driver::Driver(const DriverOptions& options)
   AddPlatformCommands();
   program_.Start();
   AddKeyboardCommands(*this);
+  AddMenuCommands(*this);
 }
 
 void Driver::RunLine(const std::string& line, std::ostream& out) {
