@@ -20,6 +20,7 @@ void CalcWindow::ToggleAdvancedFeatures() {
     ShowAdvancedFeaturesButton.SetCaption("LESS");
     ToggleTrigButtonsTimer.SetMode(Timer::kMultiple);
   } else {
+    platform_.desktop.ClearFocus();  // a field behind the narrowed edge must not keep the keys
     SmoothResize(*this, 171, globals_.ShowMemoryButtons ? 272 : 249, kAnchorBottomLeft);
     ShowAdvancedFeaturesButton.SetCaption("MORE...");
     ToggleTrigButtonsTimer.SetMode(Timer::kOff);

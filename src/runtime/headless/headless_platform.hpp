@@ -93,6 +93,8 @@ class HeadlessPlatform final : private Clock,
   void ReportUnhandledException(const std::string& exception_class,
                                 const std::string& handler_name) override;
   void Quit() override;
+  // No control takes the focus headless: nothing to clear.
+  void ClearFocus() override {}
 
   void Log(PlatformEvent event) { events_.push_back(std::move(event)); }
   // Fires every timer due at or before `until_us`, in order of due time.

@@ -23,6 +23,9 @@ class Desktop {
                                         const std::string& handler_name) = 0;
   // Ends the program after the current event.
   virtual void Quit() = 0;
+  // Takes the keyboard focus from whatever control holds it, so that keys go on
+  // reaching the window's keyboard map.
+  virtual void ClearFocus() = 0;
 };
 
 }  // namespace tessarine
