@@ -164,8 +164,12 @@ void Driver::AddPlatformCommands() {
     }
   });
   AddCommand("events", [this](const std::vector<Word>& args, std::ostream& out) {
-    ExpectArgs(args, 0, 0, "events");
-    for (const PlatformEvent& event : platform_.TakeEvents()) out << EventText(event) << '\n';
+    // With kinds given, prints only those; either way everything is forgotten.
+    for (const PlatformEvent& event : platform_.TakeEvents()) {
+      bool wanted = args.empty();
+      for (const Word& kind : args) wanted = wanted || kind.text == event.kind;
+      if (wanted) out << EventText(event) << '\n';
+    }
   });
   AddCommand("echo", [](const std::vector<Word>& args, std::ostream& out) {
     for (std::size_t i = 0; i < args.size(); ++i) out << (i ? " " : "") << args[i].text;

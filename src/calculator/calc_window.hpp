@@ -161,6 +161,9 @@ class CalcWindow final : public Window {
   void PlayCalculationSound();
   void PlayResultSound();
   void PlayClearSound();
+  void SpeakButtonsClicked();
+  void SpeakTotalClicked();
+  void VoiceRecognitionClicked();
 
   // --- Two-operand functions computed by long loops ------------------------
   double ComputeCombinations();
@@ -191,6 +194,9 @@ class CalcWindow final : public Window {
   void DigitKey(int digit);
   void WireHandlers();
   void PlayErrorSound();
+  bool MenuChecked(const char* item);
+  void PlayClassSound(bool use, int number);
+  void PlaySoundNumber(int number);
   bool TapeIsOn() const;
   void AppendToTape(const std::string& text);
 

@@ -16,4 +16,11 @@ void GlobalStuff::RebuildFormats(int decimals) {
   SmallNegativeNumber = "-0." + zeros + "1";
 }
 
+const char* ChooseSoundFromNumber(int number) {
+  static constexpr const char* kSounds[] = {"Basso",   "Boop", "Click", "Clickclack",
+                                            "Kachick", "Keybrd", "Pop", "Thump",
+                                            "Tick",    "Type",   "Typetty"};
+  return number >= 0 && number <= 10 ? kSounds[number] : nullptr;
+}
+
 }  // namespace tessarine

@@ -22,6 +22,14 @@ struct GlobalStuff {
   bool UseClearSound = true;
   bool UseResultSound = true;
 
+  // The sound of each class, by its number in the catalogue (see
+  // ChooseSoundFromNumber).
+  int NumberSoundNumber = 6;
+  int CalculationSoundNumber = 2;
+  int ErrorSoundNumber = 1;
+  int ClearSoundNumber = 5;
+  int ResultSoundNumber = 10;
+
   bool ShowHelpTags = true;
   bool ShowMemoryButtons = false;
   std::string StartWithTabCalled = "Tab1";
@@ -30,5 +38,9 @@ struct GlobalStuff {
   // preferences do when the user changes it.
   void RebuildFormats(int decimals);
 };
+
+// The sound of a number from 0 to 10 by its resource name ("Pop", "Click", ...);
+// nullptr for any other number.
+const char* ChooseSoundFromNumber(int number);
 
 }  // namespace tessarine

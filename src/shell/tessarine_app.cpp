@@ -10,16 +10,17 @@ namespace tessarine {
 
 TessarineApp::TessarineApp(Program& program) : program_(program) {
   BuildMainMenu(menu_bar_);
-  // Items whose windows are not built yet (about, preferences, the tape, the
-  // update check) have their place here and do nothing until then.
+  // Items whose windows are not built yet (about, preferences, the update check)
+  // have their place here and do nothing until then.
   const auto nothing_yet = [] {};
   handlers_ = {
       {"VisitOurWebSiteMenu", [this] { _VisitOurWebSiteMenu_Action(); }},
       {"AppleAbout", nothing_yet},
       {"EditPreferences", nothing_yet},
-      {"SpeechSpeakButtonMenu", nothing_yet},
-      {"SpeechAcceptVoiceCommandsMenu", nothing_yet},
-      {"SpeechSpeakTotalMenu", nothing_yet},
+      {"SpeechSpeakButtonMenu", [this] { program_.GetCalcWindow().SpeakButtonsClicked(); }},
+      {"SpeechAcceptVoiceCommandsMenu",
+       [this] { program_.GetCalcWindow().VoiceRecognitionClicked(); }},
+      {"SpeechSpeakTotalMenu", [this] { program_.GetCalcWindow().SpeakTotalClicked(); }},
       {"FileTapeControlMenu", nothing_yet},
       {"FileSaveTape", nothing_yet},
       {"MenuCustomize", nothing_yet},
