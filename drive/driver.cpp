@@ -6,6 +6,7 @@
 #include "json_text.hpp"
 #include "keyboard_commands.hpp"
 #include "menu_commands.hpp"
+#include "session_commands.hpp"
 #include "names.hpp"
 #include "properties.hpp"
 
@@ -36,21 +37,37 @@ std::string EventText(const PlatformEvent& event) {
   std::string text = "{" + JsonString(event.kind) + ":" + JsonString(event.text);
   if (event.kind == "show") text += ",\"sheet\":" + JsonBool(event.flag);
   if (event.kind == "exception") text += ",\"handler\":" + JsonString(event.detail);
+  if (event.kind == "print") text += ",\"block\":" + JsonString(event.detail);
+  if (event.kind == "dialog" && !event.detail.empty())
+    text += ",\"setup\":" + JsonString(event.detail);
   return text + "}";
 }
 
 }  // namespace
 
 Driver::Driver(const DriverOptions& options)
-    : options_(options),
-      platform_(options.decimal_separator),
-      program_(platform_.platform(), kRandomSeed) {
+    : options_(options) {
+  if (options.prefs_dir.empty())
+    files_ = std::make_unique<MemoryFileSystem>();
+  else
+    files_ = std::make_unique<PosixFileSystem>(options.prefs_dir);
   AddControlCommands();
   AddPlatformCommands();
-  program_.Start();
+  Launch();
   AddKeyboardCommands(*this);
   AddMenuCommands(*this);
+  AddSessionCommands(*this);
 }
+
+void Driver::Launch() {
+  program_.reset();
+  platform_ = std::make_unique<HeadlessPlatform>(options_.decimal_separator, files_.get());
+  platform_->SetScreenSize(options_.screen_width, options_.screen_height);
+  program_ = std::make_unique<tessarine::Program>(platform_->platform(), kRandomSeed);
+  program_->Start();
+}
+
+void Driver::Restart() { Launch(); }
 
 void Driver::RunLine(const std::string& line, std::ostream& out) {
   std::string error;
@@ -60,7 +77,8 @@ void Driver::RunLine(const std::string& line, std::ostream& out) {
   if ((*words)[0].quoted) throw ScriptError("a line must start with a command");
   const auto command = commands_.find((*words)[0].text);
   if (command == commands_.end()) throw ScriptError("unknown command " + (*words)[0].text);
-  if (Finished() && command->first != "echo" && command->first != "events")
+  if (Finished() && command->first != "echo" && command->first != "events" &&
+      command->first != "restart" && command->first != "prefs")
     throw ScriptError("the program has ended");
   const std::vector<Word> args(words->begin() + 1, words->end());
   command->second(args, out);
@@ -69,7 +87,7 @@ void Driver::RunLine(const std::string& line, std::ostream& out) {
 void Driver::AddControlCommands() {
   AddCommand("press", [this](const std::vector<Word>& args, std::ostream&) {
     ExpectArgs(args, 1, 1, "press CONTROL");
-    const Target target = Resolve(program_, args[0].text);
+    const Target target = Resolve(*program_, args[0].text);
     if (!target.control) throw ScriptError(args[0].text + " is not a control");
     target.control->Click();
   });
@@ -77,17 +95,17 @@ void Driver::AddControlCommands() {
     ExpectArgs(args, 1, 1, "get CONTROL.Property");
     std::string name, property;
     SplitProperty(args[0].text, name, property);
-    out << GetProperty(Resolve(program_, name), property) << '\n';
+    out << GetProperty(Resolve(*program_, name), property) << '\n';
   });
   AddCommand("set", [this](const std::vector<Word>& args, std::ostream&) {
     ExpectArgs(args, 2, 2, "set CONTROL.Property VALUE");
     std::string name, property;
     SplitProperty(args[0].text, name, property);
-    SetProperty(Resolve(program_, name), property, args[1]);
+    SetProperty(Resolve(*program_, name), property, args[1]);
   });
   AddCommand("dump", [this](const std::vector<Word>& args, std::ostream& out) {
     ExpectArgs(args, 1, 1, "dump CONTROL");
-    const Target target = Resolve(program_, args[0].text);
+    const Target target = Resolve(*program_, args[0].text);
     if (!target.control) throw ScriptError(args[0].text + " is not a control");
     out << DumpControl(*target.control) << '\n';
   });
@@ -95,10 +113,10 @@ void Driver::AddControlCommands() {
     ExpectArgs(args, 1, 1, "field NAME");
     std::string name = args[0].text;
     if (const auto dot = name.find('.'); dot != std::string::npos) {
-      FindWindow(program_, name.substr(0, dot));
+      FindWindow(*program_, name.substr(0, dot));
       name = name.substr(dot + 1);
     }
-    auto& window = static_cast<CalcWindow&>(FindWindow(program_, "CalcWindow"));
+    auto& window = static_cast<CalcWindow&>(FindWindow(*program_, "CalcWindow"));
     const auto value = window.FieldByName(name);
     if (!value) throw ScriptError("unknown field " + args[0].text);
     out << FieldText(*value) << '\n';
@@ -113,7 +131,7 @@ void Driver::AddPlatformCommands() {
     auto [end, ec] = std::from_chars(s.data(), s.data() + s.size(), ms);
     if (ec != std::errc() || end != s.data() + s.size() || ms < 0 || ms > 1000LL * 86400 * 365)
       throw ScriptError("wait takes milliseconds, got " + s);
-    platform_.Wait(ms);
+    platform_->Wait(ms);
   });
   AddCommand("after", [this](const std::vector<Word>& args, std::ostream& out) {
     if (args.size() < 2) throw ScriptError("usage: after MS COMMAND...");
@@ -129,7 +147,7 @@ void Driver::AddPlatformCommands() {
     // error there can only be reported, not stop the script at its line.
     std::vector<Word> rest(args.begin() + 2, args.end());
     Command run = command->second;
-    platform_.After(ms, [run, rest, &out] {
+    platform_->After(ms, [run, rest, &out] {
       try {
         run(rest, out);
       } catch (const ScriptError& error) {
@@ -144,32 +162,36 @@ void Driver::AddPlatformCommands() {
     auto [end, ec] = std::from_chars(s.data(), s.data() + s.size(), us);
     if (ec != std::errc() || end != s.data() + s.size() || us < 0 || us > 1000000000LL)
       throw ScriptError("clockrate takes microseconds per clock read, got " + s);
-    platform_.SetClockRate(us);
+    platform_->SetClockRate(us);
   });
   for (const bool down : {true, false}) {
     AddCommand(down ? "hold" : "release", [this, down](const std::vector<Word>& args,
                                                        std::ostream&) {
       ExpectArgs(args, 1, 8, down ? "hold MOD..." : "release MOD...");
       for (const Word& key : args)
-        if (!platform_.Hold(key.text, down)) throw ScriptError("unknown key " + key.text);
+        if (!platform_->Hold(key.text, down)) throw ScriptError("unknown key " + key.text);
     });
   }
   AddCommand("clipboard", [this](const std::vector<Word>& args, std::ostream& out) {
     ExpectArgs(args, 0, 1, "clipboard [TEXT]");
     if (args.empty()) {
-      const auto& text = platform_.ClipboardText();
+      const auto& text = platform_->ClipboardText();
       out << (text ? JsonString(*text) : "null") << '\n';
     } else {
-      platform_.SetClipboard(args[0].text);
+      platform_->SetClipboard(args[0].text);
     }
   });
   AddCommand("events", [this](const std::vector<Word>& args, std::ostream& out) {
     // With kinds given, prints only those; either way everything is forgotten.
-    for (const PlatformEvent& event : platform_.TakeEvents()) {
+    for (const PlatformEvent& event : platform_->TakeEvents()) {
       bool wanted = args.empty();
       for (const Word& kind : args) wanted = wanted || kind.text == event.kind;
       if (wanted) out << EventText(event) << '\n';
     }
+  });
+  AddCommand("restart", [this](const std::vector<Word>& args, std::ostream&) {
+    if (!args.empty()) throw ScriptError("usage: restart");
+    Restart();
   });
   AddCommand("echo", [](const std::vector<Word>& args, std::ostream& out) {
     for (std::size_t i = 0; i < args.size(); ++i) out << (i ? " " : "") << args[i].text;

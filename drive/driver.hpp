@@ -5,12 +5,15 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <ostream>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "runtime/headless/headless_platform.hpp"
+#include "runtime/headless/memory_file_system.hpp"
+#include "runtime/posix/posix_file_system.hpp"
 #include "script_words.hpp"
 #include "shell/program.hpp"
 
@@ -23,8 +26,9 @@ class ScriptError : public std::runtime_error {
 };
 
 struct DriverOptions {
-  std::string prefs_dir;
+  std::string prefs_dir;  // empty: preferences live in memory
   std::string decimal_separator = ".";
+  int screen_width = 1440, screen_height = 900;
 };
 
 class Driver {
@@ -34,10 +38,12 @@ class Driver {
   // Runs one line of a script, writing what it prints to `out`. Throws ScriptError.
   void RunLine(const std::string& line, std::ostream& out);
   // The program has ended (its main window closed).
-  bool Finished() const { return platform_.QuitRequested(); }
+  bool Finished() const { return platform_->QuitRequested(); }
 
-  HeadlessPlatform& Platform() { return platform_; }
-  tessarine::Program& Program() { return program_; }
+  HeadlessPlatform& Platform() { return *platform_; }
+  tessarine::Program& Program() { return *program_; }
+  // The next launch: a fresh platform and program on the same files.
+  void Restart();
 
   using Command = std::function<void(const std::vector<Word>& args, std::ostream& out)>;
   void AddCommand(const std::string& name, Command command) { commands_[name] = std::move(command); }
@@ -47,8 +53,11 @@ class Driver {
   void AddPlatformCommands();
 
   DriverOptions options_;
-  HeadlessPlatform platform_;
-  tessarine::Program program_;
+  void Launch();
+
+  std::unique_ptr<FileSystem> files_;  // in memory, or real files with --prefs-dir
+  std::unique_ptr<HeadlessPlatform> platform_;
+  std::unique_ptr<tessarine::Program> program_;
   std::map<std::string, Command> commands_;
 };
 

@@ -2,6 +2,7 @@
 // prints what the user would see. See docs/driver.md for the protocol.
 #include <unistd.h>
 
+#include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -11,7 +12,7 @@
 namespace {
 
 int Usage() {
-  std::cerr << "usage: tessarine-drive [--prefs-dir DIR] [--decimal-separator C] [SCRIPT]\n";
+  std::cerr << "usage: tessarine-drive [--prefs-dir DIR] [--decimal-separator C] [--screen WxH] [SCRIPT]\n";
   return 2;
 }
 
@@ -24,6 +25,9 @@ int main(int argc, char** argv) {
     const std::string arg = argv[i];
     if ((arg == "--prefs-dir" || arg == "--decimal-separator") && i + 1 < argc) {
       (arg == "--prefs-dir" ? options.prefs_dir : options.decimal_separator) = argv[++i];
+    } else if (arg == "--screen" && i + 1 < argc) {
+      if (std::sscanf(argv[++i], "%dx%d", &options.screen_width, &options.screen_height) != 2)
+        return Usage();
     } else if (!arg.empty() && arg[0] == '-' && arg != "-") {
       return Usage();
     } else if (script_path.empty()) {

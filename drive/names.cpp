@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "calculator/calc_window.hpp"
+#include "calculator/tape_window.hpp"
 #include "driver.hpp"
 #include "runtime/text.hpp"
 
@@ -11,7 +12,8 @@ namespace tessarine::drive {
 namespace {
 
 bool IsWindowName(const std::string& name) {
-  return StrEq(name, "CalcWindow") || StrEq(name, "ProgressBarWindow");
+  return StrEq(name, "CalcWindow") || StrEq(name, "ProgressBarWindow") ||
+         StrEq(name, "TapeWindow");
 }
 
 // "Name(12)" -> Name and 12; "Name" -> Name and -1.
@@ -31,6 +33,8 @@ void SplitIndex(const std::string& text, std::string& name, int& index) {
 }  // namespace
 
 Window& FindWindow(Program& program, const std::string& name) {
+  // Named, the tape comes into being as the program's own accessor makes it.
+  if (StrEq(name, "TapeWindow")) return program.GetTapeWindow();
   if (Window* window = program.FindOpenWindow(name); window && !StrEq(name, "CalcWindow"))
     return *window;
   if (StrEq(name, "CalcWindow")) {

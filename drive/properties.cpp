@@ -91,7 +91,7 @@ std::string WindowProperty(const Window& window, const std::string& property) {
   if (StrEq(property, "Top")) return JsonNumber(window.Top());
   if (StrEq(property, "Width")) return JsonNumber(window.Width());
   if (StrEq(property, "Height")) return JsonNumber(window.Height());
-  if (StrEq(property, "Visible")) return JsonBool(window.IsOpen());
+  if (StrEq(property, "Visible")) return JsonBool(window.Visible());
   throw ScriptError("unknown window property " + property);
 }
 
@@ -118,7 +118,13 @@ void SetProperty(const Target& target, const std::string& property, const Word& 
     if (StrEq(property, "Period")) return target.timer->SetPeriod(IntWord(value));
     throw ScriptError("cannot set timer property " + property);
   }
-  if (!target.control) throw ScriptError("cannot set window property " + property);
+  if (!target.control) {
+    // Moving a window, as the user drags it.
+    Window& w = *target.window;
+    if (StrEq(property, "Left")) return w.SetBounds(IntWord(value), w.Top(), w.Width(), w.Height());
+    if (StrEq(property, "Top")) return w.SetBounds(w.Left(), IntWord(value), w.Width(), w.Height());
+    throw ScriptError("cannot set window property " + property);
+  }
   Control& c = *target.control;
   // An assignment runs as program code inside an event, so that a runtime fault
   // it raises is reported like any other.

@@ -117,6 +117,10 @@ void CalcWindow::WireHandlers() {
       {"ButtonStatsInput", &CalcWindow::ButtonStatsInputAction},
       {"ButtonStatsDel", &CalcWindow::ButtonStatsDelAction},
       {"ShowAdvancedFeaturesButton", &CalcWindow::ButtonShowAdvancedFeaturesAction},
+      {"StoragePlusButton", &CalcWindow::StoragePlusButton_Action},
+      {"StorageMinusButton", &CalcWindow::StorageMinusButton_Action},
+      {"StorageRecallButton", &CalcWindow::StorageRecallButton_Action},
+      {"StorageClearButton", &CalcWindow::StorageClearButton_Action},
   };
   for (const auto& [name, method] : keys) {
     auto action = method;
@@ -124,41 +128,14 @@ void CalcWindow::WireHandlers() {
   }
   for (int index : {0, 1})
     Item("UnitsRadio", index).events.Action = [this, index] { UnitsRadio_Action(index); };
+  Control& storage_menu = Get("StorageMenu");
+  storage_menu.events.CellClick = [this](int row, int column, int x, int y) {
+    return StorageMenu_CellClick(row, column, x, y);
+  };
+  storage_menu.events.MouseMove = [this](int x, int y) { StorageMenu_MouseMove(x, y); };
+  storage_menu.events.MouseExit = [this] { StorageMenu_MouseExit(); };
   StartupMessageTimer.Action = [this] { StartupMessageTimer_Action(); };
   ToggleTrigButtonsTimer.Action = [this] { ToggleTrigButtonsTimer_Action(); };
-}
-
-// Opening the window: the keypad's start state, the mode's size, and the
-// start-up timer that puts the first value on the display.
-void CalcWindow::Event_Open() {
-  Pi = 3.141592653589793;
-  DecimalCharacter = Mid(CStr(0.5), 2, 1);
-  ButtonDecimal.SetCaption(DecimalCharacter);
-  Result = 0;
-  CR = Chr(13);
-  StringResult.clear();
-
-  const int left = 220, top = 100;
-  if (ShowAdvancedFeatures) {
-    ShowAdvancedFeaturesButton.SetCaption("LESS");
-    SetBounds(left, top, 535, 290);
-    ToggleTrigButtonsTimer.SetMode(Timer::kMultiple);
-  } else {
-    ShowAdvancedFeaturesButton.SetCaption("MORE...");
-    SetBounds(left, top, 171, globals_.ShowMemoryButtons ? 272 : 249);
-  }
-  TrigButtonNormalCaptions = true;
-
-  StartupMessageTimer.SetPeriod(100);
-  StartupMessageTimer.SetMode(Timer::kSingle);
-  UseESCforClear = true;
-}
-
-void CalcWindow::StartupMessageTimer_Action() {
-  Display.SetTextSize(15);
-  Result = 0;
-  StringResult.clear();
-  UpdateDisplay();
 }
 
 std::optional<CalcWindow::FieldValue> CalcWindow::FieldByName(std::string_view name) const {
@@ -181,6 +158,9 @@ std::optional<CalcWindow::FieldValue> CalcWindow::FieldByName(std::string_view n
       {"UseESCforClear", [this] { return FieldValue{UseESCforClear}; }},
       {"ShowAdvancedFeatures", [this] { return FieldValue{ShowAdvancedFeatures}; }},
       {"LongCalculationAborted", [this] { return FieldValue{LongCalculationAborted}; }},
+      {"StorageAction", [this] { return FieldValue{StorageAction}; }},
+      {"TapeOnAtStartup", [this] { return FieldValue{TapeOnAtStartup}; }},
+      {"TapeVisibleAtStartup", [this] { return FieldValue{TapeVisibleAtStartup}; }},
   };
   for (const auto& [field, read] : fields)
     if (StrEq(field, name)) return read();

@@ -26,6 +26,7 @@
 #include <variant>
 #include <vector>
 
+#include "runtime/bounded_array.hpp"
 #include "runtime/control.hpp"
 #include "runtime/numbers.hpp"
 #include "runtime/window.hpp"
@@ -58,6 +59,27 @@ class CalcWindow final : public Window {
   bool UseESCforClear = false;
   bool ShowAdvancedFeatures = false;
   bool LongCalculationAborted = false;  // the abort chord ended a loop; swallow its period
+
+  // --- Memory banks (memory_banks.cpp) --------------------------------------
+  BoundedArray<double, 0, 11> StorageValue;  // banks 1 to 10
+  std::string StorageAction;                  // "Add", "Minus", "Recall" or "Clear"
+  BoundedArray<double, 0, 10> Memory;         // a second set of banks that nothing uses
+  void StoragePlusButton_Action() { OpenStorageMenu("Add"); }
+  void StorageMinusButton_Action() { OpenStorageMenu("Minus"); }
+  void StorageRecallButton_Action() { OpenStorageMenu("Recall"); }
+  void StorageClearButton_Action();
+  bool StorageMenu_CellClick(int row, int column, int x, int y);
+  void StorageMenu_MouseMove(int x, int y);
+  void StorageMenu_MouseExit();
+  void MemoryPlus(int i);
+  void MemoryMinus(int i);
+  void MemoryClear(int i);
+  // The list's row text of bank i.
+  std::string StorageRowText(int bank) const;
+
+  // --- The session (session.cpp) --------------------------------------------
+  bool TapeOnAtStartup = false;
+  bool TapeVisibleAtStartup = false;
 
   // --- Keys ---------------------------------------------------------------
   void KeyType(int digit);
@@ -155,6 +177,9 @@ class CalcWindow final : public Window {
 
   // --- Feedback and the tape ----------------------------------------------
   void WriteToTape(const std::string& mark);
+  void ShowTape();
+  void SaveTapePlace();
+  bool TextHasChanged = false;  // set by the tape; nothing reads it
   void SpeakButton(const std::string& text);
   void SpeakTotal(const std::string& text);
   void PlayNumberSound();
@@ -172,6 +197,9 @@ class CalcWindow final : public Window {
   // --- Start-up -----------------------------------------------------------
   void StartupMessageTimer_Action();
 
+  // Help tags on every control (help_tags.cpp).
+  void HelpTagsEnabled(bool enabled);
+
   // A field of the keypad's logic by name, for the headless driver.
   using FieldValue = std::variant<double, std::string, bool, std::int64_t>;
   std::optional<FieldValue> FieldByName(std::string_view name) const;
@@ -181,9 +209,12 @@ class CalcWindow final : public Window {
 
  protected:
   void Event_Open() override;
+  void Event_Close() override;
 
  private:
   bool MakeControls();
+  void OpenStorageMenu(const char* action);
+  void RestoreWindowPosition();
   enum class KeyFlag { None, ClearDisplay, ClearDisplay2 };
   void RunOneOperandKey(const char* tape, double (*function)(double), KeyFlag flag,
                         const char* speech);
@@ -197,7 +228,7 @@ class CalcWindow final : public Window {
   bool MenuChecked(const char* item);
   void PlayClassSound(bool use, int number);
   void PlaySoundNumber(int number);
-  bool TapeIsOn() const;
+  bool TapeIsOn();
   void AppendToTape(const std::string& text);
 
   // The runtime's number primitives in the user's notation.

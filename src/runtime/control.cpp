@@ -248,4 +248,11 @@ void Control::UserMouseMove(int x, int y) {
 
 void Control::UserMouseExit() { Raise(events.MouseExit, "MouseExit"); }
 
+bool Control::UserCellClick(int row, int column, int x, int y) {
+  if (!enabled_ || !events.CellClick) return false;
+  bool taken = false;
+  owner_.Dispatch(name_ + "_CellClick", [&] { taken = events.CellClick(row, column, x, y); });
+  return taken;
+}
+
 }  // namespace tessarine

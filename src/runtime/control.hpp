@@ -90,6 +90,8 @@ struct ControlEvents {
   std::function<void(int x, int y)> MouseUp;
   std::function<void(int x, int y)> MouseMove;
   std::function<void()> MouseExit;
+  // A list's cell under a click; returns whether the click was taken.
+  std::function<bool(int row, int column, int x, int y)> CellClick;
   std::function<void()> GotFocus;
   std::function<void()> Open;
   std::function<void()> Close;
@@ -164,6 +166,7 @@ class Control {
   void UserMouseUp(int x, int y);
   void UserMouseMove(int x, int y);
   void UserMouseExit();
+  bool UserCellClick(int row, int column, int x, int y);
 
  private:
   void Notify(Property property);

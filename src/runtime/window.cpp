@@ -82,6 +82,12 @@ void Window::Close() {
   for (const auto& timer : timers_) timer->SetMode(Timer::kOff);
 }
 
+void Window::SetVisible(bool visible) {
+  if (visible == visible_) return;
+  visible_ = visible;
+  NotifyChanged(nullptr, Property::Visible);
+}
+
 bool Window::KeyDown(const std::string& key) {
   bool handled = false;
   Dispatch("Event_KeyDown", [&] { handled = Event_KeyDown(key); });

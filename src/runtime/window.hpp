@@ -45,12 +45,23 @@ class Window {
   void Open();
   void Close();
   bool IsOpen() const { return open_; }
+  // Whether the open window shows on screen; a window may exist hidden.
+  bool Visible() const { return open_ && visible_; }
+  void SetVisible(bool visible);
 
   int Left() const { return left_; }
   int Top() const { return top_; }
   int Width() const { return width_; }
   int Height() const { return height_; }
   void SetBounds(int left, int top, int width, int height);
+
+  // Where the pointer is, in the window's coordinates; the front end keeps it current.
+  int MouseX() const { return mouse_x_; }
+  int MouseY() const { return mouse_y_; }
+  void SetMousePosition(int x, int y) {
+    mouse_x_ = x;
+    mouse_y_ = y;
+  }
 
   // Menus, while this window is frontmost: its enabling rules, and its handler of
   // a menu command by item name (false: the window has none, the application's runs).
@@ -88,6 +99,8 @@ class Window {
   int dispatch_depth_ = 0;
   bool open_ = false;
   int left_ = 0, top_ = 0, width_ = 0, height_ = 0;
+  int mouse_x_ = 0, mouse_y_ = 0;
+  bool visible_ = true;
 };
 
 }  // namespace tessarine

@@ -33,6 +33,14 @@ struct GlobalStuff {
   bool ShowHelpTags = true;
   bool ShowMemoryButtons = false;
   std::string StartWithTabCalled = "Tab1";
+  bool SaveDisplay = false;
+  bool SaveMemoryBanks = false;
+  int NumberOfLaunches = 1;
+
+  // Where the tape window stands while it is hidden.
+  int TapeWindowLeftPosition = 10;
+  int TapeWindowTopPosition = 100;
+  int TapeWindowHeight = 250;
 
   // Rebuilds the four display strings from a number of decimals (0 to 10), as the
   // preferences do when the user changes it.

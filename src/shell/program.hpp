@@ -5,18 +5,23 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 #include <string_view>
 
 #include "runtime/platform/platform.hpp"
 #include "runtime/random_source.hpp"
 #include "settings/global_stuff.hpp"
+#include "settings/prefs_module.hpp"
 
 namespace tessarine {
 
 class CalcWindow;
 class TessarineApp;
 class ProgressBarWindow;
+class TapeWindow;
 class Window;
 
 class Program {
@@ -31,6 +36,7 @@ class Program {
 
   Platform& GetPlatform() { return platform_; }
   GlobalStuff& Globals() { return globals_; }
+  PrefsModule& Prefs() { return prefs_; }
   RandomSource& Random() { return random_; }
 
   // The application object, with the menu bar; made by Start.
@@ -48,16 +54,31 @@ class Program {
   ProgressBarWindow& ShowProgressBarWindow();
   void CloseProgressBarWindow();
 
+  // The paper tape: made (hidden) on first use.
+  TapeWindow& GetTapeWindow();
+  TapeWindow* ExistingTapeWindow() { return tape_window_.get(); }
+
+  // The file picked in the tape's save dialog.
+  std::string Document;
+
+  // Front ends hear of every window the program makes.
+  using WindowObserver = std::function<void(Window& window)>;
+  void ObserveWindows(WindowObserver observer) { window_observers_.push_back(std::move(observer)); }
+
   // An open window by name, or nullptr.
   Window* FindOpenWindow(std::string_view name);
 
  private:
   Platform& platform_;
   GlobalStuff globals_;
+  PrefsModule prefs_;
   RandomSource random_;
   std::unique_ptr<TessarineApp> app_;
   std::unique_ptr<CalcWindow> calc_window_;
   std::unique_ptr<ProgressBarWindow> progress_bar_window_;
+  std::unique_ptr<TapeWindow> tape_window_;
+  std::vector<WindowObserver> window_observers_;
+  void Made(Window& window);
 };
 
 }  // namespace tessarine

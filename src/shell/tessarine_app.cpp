@@ -1,6 +1,9 @@
 #include "shell/tessarine_app.hpp"
 
+#include <cstdlib>
+
 #include "calculator/calc_window.hpp"
+#include "calculator/tape_window.hpp"
 #include "runtime/text.hpp"
 #include "shell/main_menu.hpp"
 #include "shell/main_window_layout.hpp"
@@ -21,13 +24,13 @@ TessarineApp::TessarineApp(Program& program) : program_(program) {
       {"SpeechAcceptVoiceCommandsMenu",
        [this] { program_.GetCalcWindow().VoiceRecognitionClicked(); }},
       {"SpeechSpeakTotalMenu", [this] { program_.GetCalcWindow().SpeakTotalClicked(); }},
-      {"FileTapeControlMenu", nothing_yet},
-      {"FileSaveTape", nothing_yet},
+      {"FileTapeControlMenu", [this] { _FileTapeControlMenu_Action(); }},
+      {"FileSaveTape", [this] { _FileSaveTape_Action(); }},
       {"MenuCustomize", nothing_yet},
       {"DonateMenu", nothing_yet},
       {"CheckForUpdatesMenu", nothing_yet},
-      {"FilePageSetup", nothing_yet},
-      {"FilePrintTape", nothing_yet},
+      {"FilePageSetup", [this] { _FilePageSetup_Action(); }},
+      {"FilePrintTape", [this] { _FilePrintTape_Action(); }},
       {"FileQuit", [this] { _FileQuit_Action(); }},
   };
 }
@@ -88,10 +91,68 @@ void TessarineApp::_VisitOurWebSiteMenu_Action() {
   program_.GetPlatform().desktop.ShowURL("http://" + std::string(kMakerHostName) + "/");
 }
 
+// Shows or hides the tape, by the item's own text.
+void TessarineApp::_FileTapeControlMenu_Action() {
+  MenuItem& item = menu_bar_.Item("FileTapeControlMenu");
+  GlobalStuff& globals = program_.Globals();
+  if (item.text != "Show Tape") {
+    TapeWindow& tape = program_.GetTapeWindow();
+    tape.Event_Moved();
+    tape.SetVisible(false);
+    program_.Prefs().SetBooleanValue("TapeVisible", false, true);
+    menu_bar_.SetText(item, "Show Tape");
+  } else {
+    program_.GetCalcWindow().ShowTape();
+    program_.Prefs().SetBooleanValue("TapeVisible", true, true);
+    TapeWindow& tape = program_.GetTapeWindow();
+    tape.SetBounds(globals.TapeWindowLeftPosition, globals.TapeWindowTopPosition, tape.Width(),
+                   globals.TapeWindowHeight);
+  }
+}
+
+// The tape has no file format: the dialog records the file picked, and nothing is
+// written. "Save Tape..." goes off whatever the answer.
+void TessarineApp::_FileSaveTape_Action() {
+  if (auto file = program_.GetPlatform().desktop.AskSaveFile()) program_.Document = *file;
+  program_.TapeChanged = false;
+}
+
+void TessarineApp::_FilePageSetup_Action() {
+  TapeWindow& tape = program_.GetTapeWindow();
+  if (auto setup = program_.GetPlatform().desktop.PageSetupDialog(tape.PageSetup))
+    tape.PageSetup = *setup;
+}
+
+void TessarineApp::_FilePrintTape_Action() {
+  TapeWindow& tape = program_.GetTapeWindow();
+  Desktop::PrintJob job;
+  job.text = tape.TapeEditField.Text();
+  job.page_setup = tape.PageSetup;
+  // The page's printable size: a setup's paper less half an inch, or US letter's
+  // 540 by 648 without one. The block leaves a margin of 36 points around it.
+  int page_width = 540, page_height = 648;
+  if (!tape.PageSetup.empty()) {
+    const std::string& setup = tape.PageSetup;  // "WIDTHxHEIGHT..." as the desktop writes it
+    const auto x = setup.find('x');
+    if (x != std::string::npos) {
+      page_width = std::atoi(setup.c_str()) - 36;
+      page_height = std::atoi(setup.c_str() + x + 1) - 36;
+    }
+  }
+  job.left = 36;
+  job.top = 36;
+  job.block_width = page_width - 48;
+  job.block_height = page_height - 48;
+  program_.GetPlatform().desktop.PrintText(job);
+}
+
 void TessarineApp::_FileQuit_Action() {
-  // Quitting closes the windows first: the main window's close ends the session.
-  if (CalcWindow* calc = program_.ExistingCalcWindow(); calc && calc->IsOpen()) calc->Close();
-  program_.GetPlatform().desktop.Quit();
+  // Quitting closes the windows: the main window's close saves the session and
+  // ends the program.
+  if (CalcWindow* calc = program_.ExistingCalcWindow(); calc && calc->IsOpen())
+    calc->Close();
+  else
+    program_.GetPlatform().desktop.Quit();
 }
 
 }  // namespace tessarine

@@ -32,6 +32,10 @@ class TessarineApp {
   void Event_EnableMenuItems();
   void _VisitOurWebSiteMenu_Action();
   void _FileQuit_Action();
+  void _FileTapeControlMenu_Action();
+  void _FileSaveTape_Action();
+  void _FilePageSetup_Action();
+  void _FilePrintTape_Action();
 
   Program& program_;
   MenuBar menu_bar_;

@@ -129,6 +129,32 @@ void HeadlessPlatform::Quit() {
   Log({"quit", ""});
 }
 
+std::optional<std::string> HeadlessPlatform::NextAnswer() {
+  if (answers_.empty()) return std::nullopt;
+  auto answer = std::move(answers_.front());
+  answers_.pop_front();
+  return answer;
+}
+
+std::optional<std::string> HeadlessPlatform::AskSaveFile() {
+  Log({"dialog", "save"});
+  return NextAnswer();
+}
+
+std::optional<std::string> HeadlessPlatform::PageSetupDialog(const std::string& current) {
+  Log({"dialog", "pagesetup", current});
+  return NextAnswer();
+}
+
+bool HeadlessPlatform::PrintText(const PrintJob& job) {
+  Log({"dialog", "print", job.page_setup});
+  if (!NextAnswer()) return false;
+  Log({"print", job.text,
+       std::to_string(job.left) + "," + std::to_string(job.top) + "," +
+           std::to_string(job.block_width) + "," + std::to_string(job.block_height)});
+  return true;
+}
+
 std::vector<PlatformEvent> HeadlessPlatform::TakeEvents() {
   std::vector<PlatformEvent> taken;
   taken.swap(events_);

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <map>
 #include <optional>
@@ -65,6 +66,13 @@ class HeadlessPlatform final : private Clock,
   // What happened since the last call, then forgotten.
   std::vector<PlatformEvent> TakeEvents();
   bool QuitRequested() const { return quit_; }
+  // The user's answer to the next dialog: a text (a file picked, a page setup,
+  // "print"), or nothing for Cancel. Unanswered dialogs are cancelled.
+  void QueueAnswer(std::optional<std::string> answer) { answers_.push_back(std::move(answer)); }
+  void SetScreenSize(int width, int height) {
+    screen_width_ = width;
+    screen_height_ = height;
+  }
 
  private:
   // Clock
@@ -93,8 +101,14 @@ class HeadlessPlatform final : private Clock,
   void ReportUnhandledException(const std::string& exception_class,
                                 const std::string& handler_name) override;
   void Quit() override;
+  int ScreenWidth() const override { return screen_width_; }
+  int ScreenHeight() const override { return screen_height_; }
   // No control takes the focus headless: nothing to clear.
   void ClearFocus() override {}
+  std::optional<std::string> AskSaveFile() override;
+  std::optional<std::string> PageSetupDialog(const std::string& current) override;
+  bool PrintText(const PrintJob& job) override;
+  std::optional<std::string> NextAnswer();
 
   void Log(PlatformEvent event) { events_.push_back(std::move(event)); }
   // Fires every timer due at or before `until_us`, in order of due time.
@@ -116,6 +130,8 @@ class HeadlessPlatform final : private Clock,
   std::optional<std::string> clipboard_;
   std::vector<PlatformEvent> events_;
   bool quit_ = false;
+  int screen_width_ = 1440, screen_height_ = 900;
+  std::deque<std::optional<std::string>> answers_;
 };
 
 }  // namespace tessarine

@@ -3,6 +3,7 @@
 // that no handler caught.
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace tessarine {
@@ -23,6 +24,25 @@ class Desktop {
                                         const std::string& handler_name) = 0;
   // Ends the program after the current event.
   virtual void Quit() = 0;
+  // The size of the primary screen, in points.
+  virtual int ScreenWidth() const = 0;
+  virtual int ScreenHeight() const = 0;
+
+  // The save dialog for a text file: the path picked, or nothing when cancelled.
+  virtual std::optional<std::string> AskSaveFile() { return std::nullopt; }
+  // The page setup dialog, starting from an opaque setup text (empty: the
+  // default); the new setup text, or nothing when cancelled.
+  virtual std::optional<std::string> PageSetupDialog(const std::string&) { return std::nullopt; }
+  // Prints plain text in a monospaced font: the print dialog, then pages with the
+  // text in blocks of the given width and height (points) at the given margins.
+  // False when the user cancelled.
+  struct PrintJob {
+    std::string text;
+    std::string page_setup;  // empty: the printer's default page
+    int left = 36, top = 36;
+    int block_width = 0, block_height = 0;
+  };
+  virtual bool PrintText(const PrintJob&) { return false; }
   // Takes the keyboard focus from whatever control holds it, so that keys go on
   // reaching the window's keyboard map.
   virtual void ClearFocus() = 0;

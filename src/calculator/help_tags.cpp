@@ -1,0 +1,9 @@
+// Help tags of the main window's controls. The tags themselves are not written
+// yet; switching them is where they will be given and taken away.
+#include "calculator/calc_window.hpp"
+
+namespace tessarine {
+
+void CalcWindow::HelpTagsEnabled(bool) {}
+
+}  // namespace tessarine

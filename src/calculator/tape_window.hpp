@@ -1,0 +1,36 @@
+// TapeWindow: the paper tape, a running record of the keypad in a window of its
+// own. Its text lives only in its field and is not saved between runs; the switch,
+// the window's place and whether it shows are.
+#pragma once
+
+#include <string>
+
+#include "runtime/window.hpp"
+
+namespace tessarine {
+
+class Program;
+
+class TapeWindow final : public Window {
+ public:
+  explicit TapeWindow(Program& program);
+
+  Control& TapeEditField;
+  Control& TapeOnButton;
+  Control& TapeOffButton;
+
+  std::string PageSetup;  // the printer setup, opaque; empty until page setup ran
+
+  // Text files dropped on the tape: each appended whole, then a line end.
+  void TapeEditField_DropObject(const std::vector<std::string>& paths);
+  // The window was moved or resized: its place goes to the settings.
+  void Event_Moved();
+
+ protected:
+  void Event_Open() override;
+
+ private:
+  Program& program_;
+};
+
+}  // namespace tessarine
