@@ -6,7 +6,7 @@
 
 PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenchmark-dev clang \
             libclang-rt-14-dev \
-            nlohmann-json3-dev
+            nlohmann-json3-dev locales
 
 SAN ?= 0
 WERROR ?= 0
@@ -39,6 +39,8 @@ deps:
 	  $(SUDO) apt-get update -qq && \
 	  DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq $$missing; \
 	fi
+	@# A locale with a decimal comma, so the number primitives are tested against one.
+	@locale -a 2>/dev/null | grep -qix 'de_DE.utf8' || $(SUDO) localedef -i de_DE -f UTF-8 de_DE.UTF-8
 
 configure: deps
 	@cmake -S . -B $(BUILD_DIR) -G Ninja $(CMAKE_FLAGS) > $(BUILD_DIR).configure.log 2>&1 || \

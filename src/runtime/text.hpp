@@ -21,7 +21,8 @@ std::string Mid(std::string_view s, int start, int n);
 std::string Mid(std::string_view s, int start);
 
 // Position of the first t in s at or after `start` (0 and 1 both mean from the
-// beginning), ignoring case; 0 if absent. An empty t is found at `start`.
+// beginning), ignoring case; 0 if absent. An empty t is found at `start` (or 1),
+// unless that lies beyond the end plus one.
 int InStr(int start, std::string_view s, std::string_view t);
 int InStr(std::string_view s, std::string_view t);
 // The same by bytes, case significant.
