@@ -86,10 +86,13 @@ void Driver::RunLine(const std::string& line, std::ostream& out) {
 
 void Driver::AddControlCommands() {
   AddCommand("press", [this](const std::vector<Word>& args, std::ostream&) {
-    ExpectArgs(args, 1, 1, "press CONTROL");
-    const Target target = Resolve(*program_, args[0].text);
-    if (!target.control) throw ScriptError(args[0].text + " is not a control");
-    target.control->Click();
+    if (args.empty()) throw ScriptError("usage: press CONTROL...");
+    // Several controls are clicked one after another, as separate clicks.
+    for (const Word& name : args) {
+      const Target target = Resolve(*program_, name.text);
+      if (!target.control) throw ScriptError(name.text + " is not a control");
+      target.control->Click();
+    }
   });
   AddCommand("get", [this](const std::vector<Word>& args, std::ostream& out) {
     ExpectArgs(args, 1, 1, "get CONTROL.Property");
