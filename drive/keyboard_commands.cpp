@@ -84,6 +84,11 @@ void AddKeyboardCommands(Driver& driver) {
     if (args.empty()) throw ScriptError("usage: key TEXT [ctrl] [alt] [shift] [cmd]");
     TypeKey(driver, args[0].text, Modifiers(args, 4));
   });
+  // Several keys typed one after another, each with no modifier added.
+  driver.AddCommand("type", [&driver](const std::vector<Word>& args, std::ostream&) {
+    if (args.empty()) throw ScriptError("usage: type TEXT...");
+    for (const Word& text : args) TypeKey(driver, text.text, {});
+  });
   driver.AddCommand("chord", [&driver](const std::vector<Word>& args, std::ostream&) {
     if (args.empty()) throw ScriptError("usage: chord KEY [ctrl] [alt] [shift]");
     const auto modifiers = Modifiers(args, 3);
