@@ -58,11 +58,31 @@ run: build
 	@echo "Tessarine (headless): type commands such as 'wait 100', 'press Button7', 'get Display.Text'; Ctrl+D ends."
 	@$(BUILD_DIR)/drive/tessarine-drive
 
+# After the micro-benchmarks comes the start-up benchmark (docs/benchmarks.md): time
+# to the main window and memory of tessarine, an empty Qt window, SpeedCrunch and
+# galculator under Xvfb, in STARTUP_ROUNDS interleaved rounds. Its packages are
+# installed here only. If the full build fails (the desktop application in the
+# middle of a change), the benchmarks still run and tessarine is left out.
+BENCH_PACKAGES := xvfb xauth libxcb1-dev qt6-base-dev speedcrunch galculator
+STARTUP_ROUNDS ?= 15
 bench: deps
+	@missing=$$(for p in $(BENCH_PACKAGES); do \
+	    dpkg-query -W -f='$${Status}\n' $$p 2>/dev/null | grep -q '^install ok installed' || echo $$p; \
+	  done); \
+	if [ -n "$$missing" ]; then \
+	  echo "Installing:" $$missing; \
+	  $(SUDO) apt-get update -qq && \
+	  DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq $$missing; \
+	fi
 	@cmake -S . -B build-release -G Ninja -DCMAKE_BUILD_TYPE=Release -DTESSARINE_TESTS=OFF \
 	  -DTESSARINE_BENCH=ON > build-release.configure.log 2>&1 || { cat build-release.configure.log; exit 1; }
-	@cmake --build build-release -j $(JOBS)
-	@build-release/bench/tessarine_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
+	@startup_args=; \
+	cmake --build build-release -j $(JOBS) || { \
+	  echo "The full build failed: the benchmarks run without tessarine."; startup_args="-t none"; \
+	  cmake --build build-release -j $(JOBS) --target tessarine_bench startup_probe empty_qt_window; \
+	} && \
+	build-release/bench/tessarine_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true && \
+	bench/startup/run_startup_bench.sh -n $(STARTUP_ROUNDS) $$startup_args build-release
 
 # Fuzzes the preferences reader with libFuzzer for FUZZ_SECONDS (default 60); new
 # inputs that find new paths go to a scratch corpus, the saved one is only read.

@@ -1,0 +1,205 @@
+#!/bin/sh
+# Start-up benchmark: time to the main window being mapped, and resident memory
+# 2 s later, for an empty Qt 6 Widgets window, tessarine, SpeedCrunch and
+# galculator, on a private Xvfb display with no window manager.
+#
+#   bench/startup/run_startup_bench.sh [-n ROUNDS] [-t TESSARINE] [-o RESULTS] BUILD_DIR
+#
+# BUILD_DIR is a build with -DTESSARINE_BENCH=ON; the probe and the empty window
+# are found through BUILD_DIR/bench/startup/startup_programs.env, tessarine there
+# too (or -t PATH; -t none leaves it out). A program that is missing is skipped
+# with a message.
+#
+# The programs run interleaved: one warm-up round that is not counted, then ROUNDS
+# rounds (15 unless told) in which every program runs once, the order turning by
+# one each round, so that whatever disturbs the machine meets all of them alike.
+# Every run gets a fresh, empty HOME and XDG folders, no session bus, LANG=C.UTF-8
+# and QT_QPA_PLATFORM=xcb. The raw lines go to RESULTS (BUILD_DIR/bench/startup/
+# startup_results.txt unless told); the table of medians goes to standard output.
+set -eu
+
+rounds=15
+tessarine=
+results=
+usage() {
+  echo "usage: $0 [-n ROUNDS] [-t TESSARINE] [-o RESULTS] BUILD_DIR" >&2
+  exit 2
+}
+while getopts n:t:o: option; do
+  case $option in
+    n) rounds=$OPTARG ;;
+    t) tessarine=$OPTARG ;;
+    o) results=$OPTARG ;;
+    *) usage ;;
+  esac
+done
+shift $((OPTIND - 1))
+[ $# -eq 1 ] || usage
+build=$1
+
+programs_file=$build/bench/startup/startup_programs.env
+if [ ! -f "$programs_file" ]; then
+  echo "start-up benchmark: $programs_file is missing; configure $build with -DTESSARINE_BENCH=ON" \
+       "(it needs Qt 6 Widgets and libxcb)" >&2
+  exit 1
+fi
+setting() { sed -n "s/^$1=//p" "$programs_file"; }
+probe=$(setting PROBE)
+empty_qt_window=$(setting EMPTY_QT_WINDOW)
+[ -n "$tessarine" ] || tessarine=$(setting TESSARINE)
+[ -n "$tessarine" ] || tessarine=$build/desktop/tessarine
+[ -n "$results" ] || results=$build/bench/startup/startup_results.txt
+programs_log=${results%.txt}.log
+for tool in Xvfb "$probe" "$empty_qt_window"; do
+  if ! command -v "$tool" > /dev/null 2>&1; then
+    echo "start-up benchmark: $tool is missing" >&2
+    exit 1
+  fi
+done
+
+# The programs measured, the baseline first: "name path" lines.
+names=
+add_program() {
+  names="$names $1"
+  eval "path_$1=\$2"
+}
+add_program empty_qt "$empty_qt_window"
+if [ "$tessarine" = none ]; then
+  echo "tessarine: left out (-t none); its column is skipped"
+elif [ -x "$tessarine" ]; then
+  add_program tessarine "$tessarine"
+else
+  echo "tessarine: not built ($tessarine is missing); its column is skipped"
+fi
+for debian in speedcrunch galculator; do
+  if found=$(command -v "$debian"); then
+    add_program "$debian" "$found"
+  else
+    echo "$debian: not installed (Debian package $debian); its column is skipped"
+  fi
+done
+count=$(echo $names | wc -w)
+
+work=$(mktemp -d "${TMPDIR:-/tmp}/tessarine-startup.XXXXXX")
+xvfb_pid=
+cleanup() {
+  if [ -n "$xvfb_pid" ]; then
+    kill "$xvfb_pid" 2> /dev/null || true
+    wait "$xvfb_pid" 2> /dev/null || true
+  fi
+  rm -rf "$work"
+}
+trap cleanup EXIT
+trap 'exit 130' INT TERM
+
+# A private X server on a display number it picks itself; -noreset keeps it the
+# same server between runs.
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset \
+  3> "$work/display" > "$work/xvfb.log" 2>&1 &
+xvfb_pid=$!
+tries=0
+while [ ! -s "$work/display" ]; do
+  tries=$((tries + 1))
+  if [ $tries -gt 100 ] || ! kill -0 "$xvfb_pid" 2> /dev/null; then
+    echo "start-up benchmark: Xvfb did not start:" >&2
+    cat "$work/xvfb.log" >&2
+    exit 1
+  fi
+  sleep 0.1
+done
+display=:$(head -n 1 "$work/display")
+
+# One run: prints "round name map_ms rss_kib tree_rss_kib procs size", or a message
+# on standard error. sh has no local variables: those of this function begin run_.
+run_one() {
+  run_round=$1
+  run_name=$2
+  eval "run_path=\$path_$run_name"
+  run_home=$(mktemp -d "$work/home.XXXXXX")
+  mkdir -p "$run_home/.config" "$run_home/.cache" "$run_home/.local/share" "$run_home/runtime"
+  chmod 700 "$run_home/runtime"
+  run_line=$(env -i PATH="$PATH" HOME="$run_home" XDG_CONFIG_HOME="$run_home/.config" \
+         XDG_CACHE_HOME="$run_home/.cache" XDG_DATA_HOME="$run_home/.local/share" \
+         XDG_RUNTIME_DIR="$run_home/runtime" DISPLAY="$display" QT_QPA_PLATFORM=xcb LANG=C.UTF-8 \
+         "$probe" --settle 2000 -- "$run_path" < /dev/null 2>> "$programs_log") || true
+  rm -rf "$run_home"
+  case $run_line in
+    map_ms=*)
+      echo "$run_round $run_name $run_line" | sed 's/[a-z_]*=//g' | awk '{print $1, $2, $3, $4, $5, $6, $8}'
+      ;;
+    *)
+      echo "$run_name: run failed in round $run_round: ${run_line:-no output}" >&2
+      ;;
+  esac
+  sleep 0.2
+}
+
+echo "Start-up benchmark on display $display: $count programs, 1 warm-up round + $rounds rounds"
+mkdir -p "$(dirname "$results")"
+: > "$programs_log"
+{
+  echo "# round program map_ms rss_kib tree_rss_kib procs window_size"
+  echo "# $(date -u '+%Y-%m-%d %H:%M UTC'), $(uname -sr), $(nproc) CPUs," \
+       "$(sed -n 's/^model name[[:space:]]*: //p' /proc/cpuinfo | head -n 1)"
+  echo "# load average before: $(cut -d ' ' -f 1-3 /proc/loadavg)"
+} > "$results"
+round=0
+while [ $round -le "$rounds" ]; do
+  # Turn the order by one each round.
+  set -- $names
+  turn=$((round % count))
+  while [ $turn -gt 0 ]; do
+    first=$1
+    shift
+    set -- "$@" "$first"
+    turn=$((turn - 1))
+  done
+  for name in "$@"; do
+    if [ $round -eq 0 ]; then
+      run_one warmup "$name" > /dev/null
+    else
+      run_one "$round" "$name" >> "$results"
+    fi
+  done
+  printf '.'
+  round=$((round + 1))
+done
+echo
+
+median() {
+  sort -n | awk '{ v[NR] = $1 }
+    END { if (NR == 0) print "nan"; else if (NR % 2) print v[(NR + 1) / 2];
+          else print (v[NR / 2] + v[NR / 2 + 1]) / 2 }'
+}
+column() {  # the values of one field for one program
+  awk -v name="$1" -v field="$2" '!/^#/ && $2 == name { print $field }' "$results"
+}
+
+base_ms=$(column empty_qt 3 | median)
+base_rss=$(column empty_qt 5 | median)
+echo "# load average after: $(cut -d ' ' -f 1-3 /proc/loadavg)" >> "$results"
+echo
+echo "Medians of $rounds interleaved runs; ratios to the empty Qt 6 window"
+grep '^# load' "$results" | sed 's/^# /(/; s/$/)/'
+
+printf '%-12s %5s %12s %14s %8s %10s %8s\n' program runs "start-up ms" "(min-max)" ratio "RSS MiB" ratio
+for name in $names; do
+  runs=$(column "$name" 3 | wc -l)
+  ms=$(column "$name" 3 | median)
+  low=$(column "$name" 3 | sort -n | head -n 1)
+  high=$(column "$name" 3 | sort -n | tail -n 1)
+  rss=$(column "$name" 5 | median)
+  awk -v name="$name" -v runs="$runs" -v ms="$ms" -v low="${low:-nan}" -v high="${high:-nan}" \
+      -v rss="$rss" -v base_ms="$base_ms" -v base_rss="$base_rss" 'BEGIN {
+    if (runs == 0) { printf "%-12s %5d   (every run failed)\n", name, runs; exit }
+    if (base_ms + 0 > 0 && base_rss + 0 > 0) {
+      printf "%-12s %5d %12.1f %6.1f-%-7.1f %7.2fx %10.1f %7.2fx\n", name, runs, ms, low, high,
+             ms / base_ms, rss / 1024, rss / base_rss
+    } else {
+      printf "%-12s %5d %12.1f %6.1f-%-7.1f %8s %10.1f %8s\n", name, runs, ms, low, high,
+             "-", rss / 1024, "-"
+    }
+  }'
+done
+echo "(RSS is that of the process and its descendants, read 2 s after the window was mapped.)"
+echo "Raw runs: $results; what the programs printed: $programs_log"
