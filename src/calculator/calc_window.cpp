@@ -13,6 +13,7 @@ namespace {
 
 // The controls locked while the display shows an error, in the order they are
 // switched. Clear stays live: it is the way out.
+// clang-format off
 constexpr std::pair<std::string_view, int> kErrorStateControls[] = {
     {"ButtonPercent", -1},       {"Button0", -1},           {"Button1", -1},
     {"Button2", -1},             {"Button3", -1},           {"Button4", -1},
@@ -35,6 +36,7 @@ constexpr std::pair<std::string_view, int> kErrorStateControls[] = {
     {"ButtonNthRoot", -1},       {"ButtonStatsInput", -1},  {"ConversionUpdateNowButton", -1},
     {"TrigGroupBox", -1},        {"TrigGroupBoxLabel", -1},
 };
+// clang-format on
 
 }  // namespace
 

@@ -7,7 +7,8 @@ namespace tessarine {
 
 void CalcWindow::Event_EnableMenuItems(MenuBar& bar) {
   // Whatever the calculator or the clipboard holds.
-  for (const char* name : {"EditClear", "EditCopy", "EditPaste"}) bar.SetEnabled(bar.Item(name), true);
+  for (const char* name : {"EditClear", "EditCopy", "EditPaste"})
+    bar.SetEnabled(bar.Item(name), true);
 }
 
 bool CalcWindow::HandleMenuCommand(MenuBar&, std::string_view name, int index) {

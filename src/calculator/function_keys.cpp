@@ -99,7 +99,9 @@ void CalcWindow::ArmTwoOperandFunction(const char* tape, const char* function,
 }
 
 void CalcWindow::ButtonXtotheYAction() { ArmTwoOperandFunction("   x^y", "Power", "X to the why"); }
-void CalcWindow::ButtonNthRootAction() { ArmTwoOperandFunction("   x√y", "NthRoot", "enth, root"); }
+void CalcWindow::ButtonNthRootAction() {
+  ArmTwoOperandFunction("   x√y", "NthRoot", "enth, root");
+}
 void CalcWindow::ButtonLogBasenAction() {
   ArmTwoOperandFunction(" log^n", "LogBasen", "Log base En");
 }

@@ -16,7 +16,9 @@ namespace tessarine {
 namespace {
 
 // Number keys that hold pixels or indexes become 32-bit integers on reading.
-int ToInt(double x) { return static_cast<int>(std::clamp<std::int64_t>(WholePart(x), INT32_MIN, INT32_MAX)); }
+int ToInt(double x) {
+  return static_cast<int>(std::clamp<std::int64_t>(WholePart(x), INT32_MIN, INT32_MAX));
+}
 
 }  // namespace
 

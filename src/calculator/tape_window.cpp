@@ -6,31 +6,17 @@
 
 namespace tessarine {
 
-namespace {
-
-ControlSpec Spec(const char* name, ControlKind kind, int left, int top, int width, int height,
-                 const char* text) {
-  ControlSpec spec;
-  spec.name = name;
-  spec.kind = kind;
-  spec.left = left;
-  spec.top = top;
-  spec.width = width;
-  spec.height = height;
-  spec.text = text;
-  return spec;
-}
-
-}  // namespace
-
 TapeWindow::TapeWindow(Program& program)
     : Window(program.GetPlatform(), "TapeWindow"),
-      TapeEditField(AddControl(Spec("TapeEditField", ControlKind::TextArea, 0, 0, 205, 218, ""))),
-      TapeOnButton(AddControl(Spec("TapeOnButton", ControlKind::RadioButton, 8, 224, 44, 20, "On"))),
-      TapeOffButton(
-          AddControl(Spec("TapeOffButton", ControlKind::RadioButton, 56, 224, 44, 20, "Off"))),
+      TapeEditField(
+          AddControl(ControlSpec::At("TapeEditField", ControlKind::TextArea, 0, 0, 205, 218, ""))),
+      TapeOnButton(AddControl(
+          ControlSpec::At("TapeOnButton", ControlKind::RadioButton, 8, 224, 44, 20, "On"))),
+      TapeOffButton(AddControl(
+          ControlSpec::At("TapeOffButton", ControlKind::RadioButton, 56, 224, 44, 20, "Off"))),
       program_(program) {
-  AddControl(Spec("ClearTapeButton", ControlKind::PushButton, 130, 223, 67, 22, "Clear"));
+  AddControl(
+      ControlSpec::At("ClearTapeButton", ControlKind::PushButton, 130, 223, 67, 22, "Clear"));
   SetVisible(false);  // it exists from the first write on, shown or not
   SetBounds(program.Globals().TapeWindowLeftPosition, program.Globals().TapeWindowTopPosition, 205,
             program.Globals().TapeWindowHeight);

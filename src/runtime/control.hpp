@@ -67,6 +67,20 @@ enum class Property {
 // Where and what a control is when its window is made: one row of a window's
 // control table.
 struct ControlSpec {
+  // A control at a place, with its design text: the usual row of a window's table.
+  static ControlSpec At(std::string_view name, ControlKind kind, int left, int top, int width,
+                        int height, std::string_view text = "") {
+    ControlSpec spec;
+    spec.name = name;
+    spec.kind = kind;
+    spec.left = left;
+    spec.top = top;
+    spec.width = width;
+    spec.height = height;
+    spec.text = text;
+    return spec;
+  }
+
   std::string name;
   int index = -1;  // position in a control array, -1 for a plain control
   ControlKind kind = ControlKind::Label;

@@ -36,7 +36,8 @@ class Reader {
   std::int32_t Int32() { return static_cast<std::int32_t>(Unsigned(4)); }
   std::string Bytes(int length) {
     if (length <= 0 || pos_ >= bytes_.size()) return "";
-    const std::size_t n = std::min<std::size_t>(static_cast<std::size_t>(length), bytes_.size() - pos_);
+    const std::size_t n =
+        std::min<std::size_t>(static_cast<std::size_t>(length), bytes_.size() - pos_);
     std::string out(bytes_.substr(pos_, n));
     pos_ += n;
     return out;

@@ -32,7 +32,8 @@ void BuildMainMenu(MenuBar& bar) {
                 Item("EditSeparator3", "-"), Item("EditSelectAll", "Select All", "Cmd+A"),
                 Item("EditSeparator1", "-"), Item("EditPreferences", "Preferences...")}});
   MenuItem first_constant = Item("MenuConstant", "");
-  first_constant.index = 0;  // the first entry of the constants; more are inserted above the separator
+  first_constant.index =
+      0;  // the first entry of the constants; more are inserted above the separator
   bar.AddMenu({"ConstantsMenu",
                "Constants",
                {first_constant, Item("MenuConstantsSeparator", "-"),

@@ -14,16 +14,9 @@ struct Box {
 ControlSpec Row(std::string_view name, int index, ControlKind kind, std::string_view parent,
                 Box box, std::string_view text, std::vector<std::string> rows, int tab_page,
                 int panel_page, bool visible, std::uint32_t text_color) {
-  ControlSpec spec;
-  spec.name = name;
+  ControlSpec spec = ControlSpec::At(name, kind, box.left, box.top, box.width, box.height, text);
   spec.index = index;
-  spec.kind = kind;
   spec.parent = parent;
-  spec.left = box.left;
-  spec.top = box.top;
-  spec.width = box.width;
-  spec.height = box.height;
-  spec.text = text;
   spec.rows = std::move(rows);
   spec.tab_page = tab_page;
   spec.panel_page = panel_page;
@@ -39,6 +32,7 @@ const std::vector<ControlSpec>& MainWindowControls() {
   // Order matters: it is the order of the window's design, and parents come
   // before their children.
   static const std::vector<ControlSpec> controls = [] {
+    // clang-format off: one row a control, as the design lists them
     std::vector<ControlSpec> table = {
       Row("DisplayBackground", -1, K::RoundRectangle, "", {11, 10, 150, 34}, "", {}, 0, 0, true, 0),
       Row("Display", -1, K::Label, "DisplayBackground", {16, 19, 137, 16}, "Initializing...", {}, 0, 0, true, 0x164982),
@@ -189,6 +183,7 @@ const std::vector<ControlSpec>& MainWindowControls() {
       Row("ExpressionResult", -1, K::Label, "Rectangle11", {246, 211, 145, 18}, "", {}, 5, 0, true, 0),
       Row("ClearExpressionButton", -1, K::PushButton, "CalcTabSelector", {402, 209, 80, 20}, "Clear", {}, 5, 0, true, 0),
     };
+    // clang-format on
     for (ControlSpec& spec : table) {
       // The tab panel's rows are its page captions.
       if (spec.name == "CalcTabSelector")

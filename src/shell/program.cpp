@@ -9,7 +9,9 @@
 namespace tessarine {
 
 Program::Program(Platform& platform, std::uint64_t random_seed)
-    : platform_(platform), prefs_(platform.files, platform.decimal_separator), random_(random_seed) {}
+    : platform_(platform),
+      prefs_(platform.files, platform.decimal_separator),
+      random_(random_seed) {}
 
 Program::~Program() = default;
 

@@ -46,7 +46,8 @@ void TessarineApp::Event_EnableMenuItems() {
   const bool constants = calc && calc->Get("ButtonClearEntry").Enabled();
   for (const Menu& menu : bar.Menus())
     for (const MenuItem& item : menu.items)
-      if (StrEq(item.name, "MenuConstant")) bar.SetEnabled(bar.Item(item.name, item.index), constants);
+      if (StrEq(item.name, "MenuConstant"))
+        bar.SetEnabled(bar.Item(item.name, item.index), constants);
   for (const char* name : {"MenuCustomize", "SpeechSpeakButtonMenu", "SpeechSpeakTotalMenu"})
     bar.SetEnabled(bar.Item(name), true);
   bar.SetEnabled(bar.Item("FileSaveTape"), program_.TapeChanged);
