@@ -98,7 +98,8 @@ void CalcWindow::Event_Open() {
 
   // 12. Speech: the key holds the state before one flip.
   MenuBar& bar = program_.App().GetMenuBar();
-  bar.SetChecked(bar.Item("SpeechSpeakButtonMenu"), prefs.GetBooleanValue("SpeakButton", true, true));
+  bar.SetChecked(bar.Item("SpeechSpeakButtonMenu"),
+                 prefs.GetBooleanValue("SpeakButton", true, true));
   SpeakButtonsClicked();
   bar.SetChecked(bar.Item("SpeechSpeakTotalMenu"), prefs.GetBooleanValue("SpeakTotal", true, true));
   SpeakTotalClicked();
