@@ -8,10 +8,8 @@
 #include <cmath>
 #include <vector>
 
-#include "calculator/calc_window.hpp"
+#include "bench_calculator.hpp"
 #include "runtime/arithmetic.hpp"
-#include "runtime/headless/headless_platform.hpp"
-#include "shell/program.hpp"
 
 namespace tessarine {
 namespace {
@@ -19,11 +17,8 @@ namespace {
 constexpr double kN = 1e7;  // n - k of 10^7 with k = 0: 2 x 10^7 logarithms in all
 
 void BM_CombinationsLoop(benchmark::State& state) {
-  HeadlessPlatform headless;
-  Program program(headless.platform(), 1);
-  program.Start();
-  headless.Wait(100);
-  CalcWindow& w = program.GetCalcWindow();
+  BenchCalculator calc;
+  CalcWindow& w = calc.Window();
   for (auto _ : state) {
     w.Stored2 = kN;
     w.Result = 0;
@@ -48,11 +43,8 @@ BENCHMARK(BM_BareLogLoop)->Unit(benchmark::kMillisecond);
 // Both in one run, interleaved, so that load on the machine hits them alike; the
 // counter "ratio" is the median of C(n,k)'s time over the bare loops' time.
 void BM_CombinationsOverBareLogs(benchmark::State& state) {
-  HeadlessPlatform headless;
-  Program program(headless.platform(), 1);
-  program.Start();
-  headless.Wait(100);
-  CalcWindow& w = program.GetCalcWindow();
+  BenchCalculator calc;
+  CalcWindow& w = calc.Window();
   std::vector<double> ratios;
   for (auto _ : state) {
     const auto t0 = std::chrono::steady_clock::now();

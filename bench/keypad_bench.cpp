@@ -5,23 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "calculator/calc_window.hpp"
-#include "runtime/headless/headless_platform.hpp"
+#include "bench_calculator.hpp"
 #include "runtime/numbers.hpp"
-#include "shell/program.hpp"
 
 namespace tessarine {
 namespace {
-
-struct Calculator {
-  Calculator() {
-    program.Start();
-    headless.Wait(100);
-  }
-  CalcWindow& Window() { return program.GetCalcWindow(); }
-  HeadlessPlatform headless;
-  Program program{headless.platform(), 1};
-};
 
 // Reports the time per key press as "per_action".
 void SetPerAction(benchmark::State& state, std::size_t actions_per_iteration) {
@@ -31,7 +19,7 @@ void SetPerAction(benchmark::State& state, std::size_t actions_per_iteration) {
 }
 
 void BM_KeypadCalculation(benchmark::State& state) {
-  Calculator calc;
+  BenchCalculator calc;
   CalcWindow& w = calc.Window();
   // 12.5 + 7 = , then 3 x 4 = : digits, point, operators and equals.
   std::vector<Control*> keys;
@@ -47,7 +35,7 @@ void BM_KeypadCalculation(benchmark::State& state) {
 BENCHMARK(BM_KeypadCalculation);
 
 void BM_DigitKey(benchmark::State& state) {
-  Calculator calc;
+  BenchCalculator calc;
   CalcWindow& w = calc.Window();
   Control& digit = w.Get("Button7");
   Control& clear = w.Get("ButtonClear");
@@ -62,7 +50,7 @@ void BM_DigitKey(benchmark::State& state) {
 BENCHMARK(BM_DigitKey);
 
 void BM_OperatorKey(benchmark::State& state) {
-  Calculator calc;
+  BenchCalculator calc;
   CalcWindow& w = calc.Window();
   Control& digit = w.Get("Button3");
   Control& plus = w.Get("ButtonPlus");
@@ -75,7 +63,7 @@ void BM_OperatorKey(benchmark::State& state) {
 BENCHMARK(BM_OperatorKey);
 
 void BM_EqualsKey(benchmark::State& state) {
-  Calculator calc;
+  BenchCalculator calc;
   CalcWindow& w = calc.Window();
   Control& equals = w.Get("ButtonEqual");
   w.Get("Button9").Click();
@@ -88,7 +76,7 @@ const std::vector<double> kValues = {0,       5,          -12.5,     2.0 / 3,  1
                                      1.5e20,  0.00000005, -1e70,     3.14159,  1234567890123};
 
 void BM_FormatResult(benchmark::State& state) {
-  Calculator calc;
+  BenchCalculator calc;
   CalcWindow& w = calc.Window();
   for (auto _ : state)
     for (double x : kValues) w.FormatResult(x);

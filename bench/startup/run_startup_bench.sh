@@ -13,8 +13,8 @@
 # The programs run interleaved: one warm-up round that is not counted, then ROUNDS
 # rounds (15 unless told) in which every program runs once, the order turning by
 # one each round, so that whatever disturbs the machine meets all of them alike.
-# Every run gets a fresh, empty HOME and XDG folders, no session bus, LANG=C.UTF-8
-# and QT_QPA_PLATFORM=xcb. The raw lines go to RESULTS (BUILD_DIR/bench/startup/
+# Every run gets a fresh, empty HOME and XDG folders, no session bus, a plain PATH,
+# LANG=C.UTF-8 and QT_QPA_PLATFORM=xcb (run_clean in startup_common.sh). The raw lines go to RESULTS (BUILD_DIR/bench/startup/
 # startup_results.txt unless told); the table of medians goes to standard output.
 set -eu
 
@@ -43,7 +43,8 @@ if [ ! -f "$programs_file" ]; then
        "(it needs Qt 6 Widgets and libxcb)" >&2
   exit 1
 fi
-setting() { sed -n "s/^$1=//p" "$programs_file"; }
+. "$(dirname "$0")/startup_common.sh"
+setting() { startup_setting "$programs_file" "$1"; }
 probe=$(setting PROBE)
 empty_qt_window=$(setting EMPTY_QT_WINDOW)
 [ -n "$tessarine" ] || tessarine=$(setting TESSARINE)
@@ -57,7 +58,8 @@ for tool in Xvfb "$probe" "$empty_qt_window"; do
   fi
 done
 
-# The programs measured, the baseline first: "name path" lines.
+# The programs measured, the baseline first: their names in "names", their paths
+# in path_NAME.
 names=
 add_program() {
   names="$names $1"
@@ -81,33 +83,14 @@ done
 count=$(echo $names | wc -w)
 
 work=$(mktemp -d "${TMPDIR:-/tmp}/tessarine-startup.XXXXXX")
-xvfb_pid=
 cleanup() {
-  if [ -n "$xvfb_pid" ]; then
-    kill "$xvfb_pid" 2> /dev/null || true
-    wait "$xvfb_pid" 2> /dev/null || true
-  fi
+  stop_xvfb
   rm -rf "$work"
 }
 trap cleanup EXIT
 trap 'exit 130' INT TERM
 
-# A private X server on a display number it picks itself; -noreset keeps it the
-# same server between runs.
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset \
-  3> "$work/display" > "$work/xvfb.log" 2>&1 &
-xvfb_pid=$!
-tries=0
-while [ ! -s "$work/display" ]; do
-  tries=$((tries + 1))
-  if [ $tries -gt 100 ] || ! kill -0 "$xvfb_pid" 2> /dev/null; then
-    echo "start-up benchmark: Xvfb did not start:" >&2
-    cat "$work/xvfb.log" >&2
-    exit 1
-  fi
-  sleep 0.1
-done
-display=:$(head -n 1 "$work/display")
+start_xvfb
 
 # One run: prints "round name map_ms rss_kib tree_rss_kib procs size", or a message
 # on standard error. sh has no local variables: those of this function begin run_.
@@ -115,14 +98,7 @@ run_one() {
   run_round=$1
   run_name=$2
   eval "run_path=\$path_$run_name"
-  run_home=$(mktemp -d "$work/home.XXXXXX")
-  mkdir -p "$run_home/.config" "$run_home/.cache" "$run_home/.local/share" "$run_home/runtime"
-  chmod 700 "$run_home/runtime"
-  run_line=$(env -i PATH="$PATH" HOME="$run_home" XDG_CONFIG_HOME="$run_home/.config" \
-         XDG_CACHE_HOME="$run_home/.cache" XDG_DATA_HOME="$run_home/.local/share" \
-         XDG_RUNTIME_DIR="$run_home/runtime" DISPLAY="$display" QT_QPA_PLATFORM=xcb LANG=C.UTF-8 \
-         "$probe" --settle 2000 -- "$run_path" < /dev/null 2>> "$programs_log") || true
-  rm -rf "$run_home"
+  run_line=$(run_clean "$probe" --settle 2000 -- "$run_path" 2>> "$programs_log")
   case $run_line in
     map_ms=*)
       echo "$run_round $run_name $run_line" | sed 's/[a-z_]*=//g' | awk '{print $1, $2, $3, $4, $5, $6, $8}'
