@@ -11,9 +11,14 @@ void MenuBar::AddMenu(Menu menu) {
 }
 
 MenuItem* MenuBar::Find(std::string_view name, int index) {
-  for (Menu& menu : menus_)
-    for (MenuItem& item : menu.items)
-      if (StrEq(item.name, name) && (index < 0 || item.index == index)) return &item;
+  // The program spells its names exactly, so the exact pass finds them cheaply;
+  // the second pass finds a name written in another case.
+  for (const bool exact : {true, false})
+    for (Menu& menu : menus_)
+      for (MenuItem& item : menu.items)
+        if ((exact ? item.name == name : StrEq(item.name, name)) &&
+            (index < 0 || item.index == index))
+          return &item;
   return nullptr;
 }
 
