@@ -1,0 +1,88 @@
+#include "desktop_app.hpp"
+
+#include <QApplication>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QWindow>
+
+#include "main_window_view.hpp"
+#include "window_dialog.hpp"
+
+namespace tessarine::desktop {
+
+void ConfigureApplication(QApplication& app) {
+  QApplication::setApplicationName(QStringLiteral("Tessarine"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Tessarine"));
+  QApplication::setDesktopFileName(QStringLiteral("tessarine"));
+  if (QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion"))) {
+    QApplication::setStyle(fusion);
+    QApplication::setPalette(fusion->standardPalette());
+  }
+  app.setQuitOnLastWindowClosed(true);
+}
+
+DesktopApp::DesktopApp(std::uint64_t random_seed, const std::string& preferences_folder)
+    : platform_(preferences_folder), program_(platform_.platform(), random_seed) {
+  platform_.SetWindowHost(this);
+}
+
+DesktopApp::~DesktopApp() {
+  for (auto& [name, dialog] : dialogs_)
+    if (dialog && !dialog->parent()) delete dialog.data();
+  main_view_.reset();
+  platform_.SetWindowHost(nullptr);
+}
+
+void DesktopApp::Start() {
+  program_.Start();
+  main_view_ = std::make_unique<MainWindowView>(program_, platform_);
+  main_view_->show();
+}
+
+WindowDialog* DesktopApp::DialogFor(const std::string& window_name) const {
+  const auto it = dialogs_.find(window_name);
+  return it == dialogs_.end() ? nullptr : it->second.data();
+}
+
+void DesktopApp::ShowWindow(const std::string& window_name, bool as_sheet) {
+  Window* window = program_.FindOpenWindow(window_name);
+  if (!window) return;
+  if (WindowDialog* shown = DialogFor(window_name)) shown->CloseFromProgram();
+  auto* dialog = new WindowDialog(*window, as_sheet ? main_view_.get() : nullptr);
+  dialogs_[window_name] = dialog;
+  dialog->show();
+  // The sheet takes the keyboard: the main window is blocked while it shows, and
+  // the abort chord of the loop under it must reach the program.
+  if (as_sheet) dialog->activateWindow();
+}
+
+void DesktopApp::CloseWindow(const std::string& window_name) {
+  if (WindowDialog* dialog = DialogFor(window_name)) {
+    const bool sheet = dialog->parentWidget() != nullptr;
+    dialog->CloseFromProgram();
+    // The keys are the main window's again, with or without a window manager.
+    if (sheet && main_view_) main_view_->activateWindow();
+  }
+  dialogs_.erase(window_name);
+}
+
+QWidget* DesktopApp::DialogParent() { return main_view_.get(); }
+
+QObject* DesktopApp::KeyTarget() {
+  if (!main_view_) return nullptr;
+  if (QWindow* window = main_view_->windowHandle()) return window;
+  return main_view_.get();
+}
+
+void DesktopApp::ClearFocus() {
+  if (main_view_) main_view_->ClearKeyboardFocus();
+}
+
+void DesktopApp::CloseAllWindows() {
+  for (auto& [name, dialog] : dialogs_)
+    if (dialog) dialog->CloseFromProgram();
+  dialogs_.clear();
+  if (main_view_) main_view_->close();
+}
+
+}  // namespace tessarine::desktop

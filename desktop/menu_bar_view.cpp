@@ -1,0 +1,100 @@
+#include "menu_bar_view.hpp"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <cctype>
+
+#include "runtime/menu_bar.hpp"
+#include "shell/main_menu.hpp"
+#include "shell/tessarine_app.hpp"
+
+namespace tessarine::desktop {
+
+namespace {
+
+std::pair<std::string, int> Key(const std::string& name, int index) {
+  std::string folded = name;
+  for (char& c : folded) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return {folded, index};
+}
+
+}  // namespace
+
+MenuBarView::MenuBarView(TessarineApp& app, QMenuBar& bar) : QObject(&bar), app_(app), bar_(bar) {
+  Rebuild();
+  QPointer<MenuBarView> self(this);
+  app_.GetMenuBar().Observe([self](const MenuItem* item) {
+    if (!self) return;
+    if (item)
+      self->Update(*item);
+    else
+      self->Rebuild();
+  });
+}
+
+void MenuBarView::Rebuild() {
+  bar_.clear();
+  actions_.clear();
+  for (const Menu& menu : app_.GetMenuBar().Menus()) {
+    QMenu* qmenu = bar_.addMenu(QString::fromStdString(menu.text));
+    qmenu->setObjectName(QString::fromStdString(menu.name));
+    connect(qmenu, &QMenu::aboutToShow, this, [this] { app_.EnableMenuItems(); });
+    for (const MenuItem& item : menu.items) {
+      if (item.IsSeparator()) {
+        qmenu->addSeparator();
+        continue;
+      }
+      QAction* action = qmenu->addAction(QString::fromStdString(item.text));
+      action->setObjectName(QString::fromStdString(item.name));
+      const std::string name = item.name;
+      const int index = item.index;
+      connect(action, &QAction::triggered, this, [this, name, index] { app_.MenuCommand(name, index); });
+      if (!item.shortcut.empty()) {
+        action->setShortcut(QKeySequence(QString::fromStdString(LinuxShortcut(item.shortcut))));
+        // Shown in the menu; the main window tests the chord itself (TryShortcut).
+        action->setShortcutContext(Qt::WidgetShortcut);
+      }
+      actions_[Key(item.name, item.index)] = action;
+      Update(item);
+    }
+  }
+}
+
+void MenuBarView::Update(const MenuItem& item) {
+  const auto it = actions_.find(Key(item.name, item.index));
+  if (it == actions_.end() || !it->second) return;
+  QAction* action = it->second;
+  action->setText(QString::fromStdString(item.text));
+  action->setEnabled(item.enabled);
+  action->setCheckable(item.checked);
+  action->setChecked(item.checked);
+  // An entry of the constants without a name yet has nothing to show.
+  action->setVisible(!item.text.empty());
+}
+
+QAction* MenuBarView::ActionFor(const std::string& name, int index) const {
+  const auto it = actions_.find(Key(name, index));
+  return it == actions_.end() ? nullptr : it->second.data();
+}
+
+bool MenuBarView::TryShortcut(const QKeyEvent& event) {
+  const QKeyCombination chord(event.modifiers() & ~Qt::KeypadModifier,
+                              static_cast<Qt::Key>(event.key()));
+  for (const Menu& menu : app_.GetMenuBar().Menus()) {
+    for (const MenuItem& item : menu.items) {
+      if (item.shortcut.empty()) continue;
+      const QKeySequence sequence(QString::fromStdString(LinuxShortcut(item.shortcut)));
+      if (sequence.count() != 1 || sequence[0] != chord) continue;
+      // MenuCommand runs the enabling rules first and does nothing for a disabled item.
+      const std::string name = item.name;
+      const int index = item.index;
+      app_.MenuCommand(name, index);
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace tessarine::desktop
