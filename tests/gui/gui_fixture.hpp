@@ -1,0 +1,63 @@
+// The fixture of the in-process GUI tests: a fresh calculator (its own
+// preferences folder) with its real main window on Qt's offscreen platform,
+// started and showing its first value. Keys and clicks go to the real widgets.
+//
+// A modal dialog would block a test for ever: a watchdog closes any message box
+// within 50 ms and keeps its text; a test takes the texts it expects
+// (TakeDialogs), and the fixture fails the test for any it did not.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <memory>
+#include <string>
+
+#include "calculator/calc_window.hpp"
+#include "desktop_app.hpp"
+#include "main_window_view.hpp"
+
+class QWidget;
+
+namespace tessarine::desktop::testing {
+
+class GuiFixture {
+ public:
+  GuiFixture();
+  ~GuiFixture();
+  GuiFixture(const GuiFixture&) = delete;
+  GuiFixture& operator=(const GuiFixture&) = delete;
+
+  DesktopApp& App() { return *app_; }
+  QtPlatform& Platform() { return app_->GetPlatform(); }
+  MainWindowView& View() { return *app_->MainView(); }
+  CalcWindow& Calc() { return View().Model(); }
+
+  // The widget of a main window control; fails the test (returns nullptr) when
+  // there is none.
+  QWidget* Widget(const char* name, int index = -1);
+  // What the Display label shows.
+  QString DisplayText();
+  // A left click in the middle of the control's widget.
+  void Click(const char* name, int index = -1);
+  // Keys typed on the main window as the window system delivers them (to the
+  // focused widget, through the shortcut map): one key click each ('2', '+', ...).
+  void Type(const QString& keys);
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  // Lets the mode switch's animation end.
+  void WaitForResize();
+
+  // Texts of the message boxes closed by the watchdog since the last call.
+  QStringList TakeDialogs();
+  // True when no message box was left unclaimed (checked at each test's end).
+  bool NoUnclaimedDialogs() const { return dialogs_.isEmpty(); }
+
+ private:
+  QTemporaryDir preferences_;
+  std::unique_ptr<DesktopApp> app_;
+  QTimer watchdog_;
+  QStringList dialogs_;
+};
+
+}  // namespace tessarine::desktop::testing

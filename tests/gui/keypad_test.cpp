@@ -1,0 +1,124 @@
+// The keypad through the real widgets: keys typed on the main window, clicks on
+// the keys, the flash of a typed key, and the error state's locked keys.
+#include <QAbstractButton>
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+
+#include "control_widgets.hpp"
+#include "gui_fixture.hpp"
+#include "suites.hpp"
+#include "window_canvas.hpp"
+
+namespace tessarine::desktop::testing {
+
+class KeypadTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { f_ = std::make_unique<GuiFixture>(); }
+  void cleanup() {
+    const QStringList left = f_->TakeDialogs();
+    f_.reset();
+    QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral("; "))));
+  }
+
+  void typedKeysReachTheDisplay() {
+    f_->Type(QStringLiteral("2+3"));
+    QCOMPARE(f_->DisplayText(), QStringLiteral("3"));
+    f_->Key(Qt::Key_Return);
+    QCOMPARE(f_->DisplayText(), QStringLiteral("5."));
+    // The keypad's Enter and Escape: 5 x 4 on the keypad, then Escape clears.
+    f_->Key(Qt::Key_Asterisk, Qt::KeypadModifier);
+    f_->Key(Qt::Key_4, Qt::KeypadModifier);
+    f_->Key(Qt::Key_Enter, Qt::KeypadModifier);
+    QCOMPARE(f_->DisplayText(), QStringLiteral("20."));
+    f_->Key(Qt::Key_Escape);
+    QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
+  }
+
+  void modifiedChordsGoThroughTheTranslation() {
+    // Ctrl + 2 squares (the control key's row), Alt + 2 takes the square root
+    // (the Option layer), Ctrl + hyphen changes the sign.
+    f_->Type(QStringLiteral("3"));
+    f_->Key(Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(f_->DisplayText(), QStringLiteral("9."));
+    f_->Key(Qt::Key_2, Qt::AltModifier);
+    QCOMPARE(f_->DisplayText(), QStringLiteral("3."));
+    f_->Key(Qt::Key_Minus, Qt::ControlModifier);
+    QCOMPARE(f_->DisplayText(), QStringLiteral("-3."));
+    QCOMPARE(f_->Calc().Result, -3.0);
+  }
+
+  void clicksOnKeysRunTheirActions() {
+    for (const char* key : {"Button7", "ButtonTimes", "Button6", "ButtonEqual"}) f_->Click(key);
+    QCOMPARE(f_->DisplayText(), QStringLiteral("42."));
+    f_->Click("ButtonChangeSign");
+    QCOMPARE(f_->DisplayText(), QStringLiteral("-42."));
+    f_->Click("ButtonClear");
+    QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
+  }
+
+  void typedKeyFlashesDown() {
+    // Push shows the key down for 7 ticks, yielding meanwhile: a timer due in the
+    // middle sees the key drawn down, and it is up again afterwards.
+    auto* key = qobject_cast<KeyButton*>(f_->Widget("Button7"));
+    QVERIFY(key);
+    bool down_in_the_middle = false;
+    QTimer::singleShot(50, key, [&] { down_in_the_middle = key->ShownDown(); });
+    QElapsedTimer clock;
+    clock.start();
+    f_->Type(QStringLiteral("7"));
+    QVERIFY(clock.elapsed() >= 100);  // about 117 ms
+    QVERIFY(down_in_the_middle);
+    QVERIFY(!key->ShownDown());
+    // A click runs the action without the flash.
+    QVERIFY(!f_->Calc().Get("Button7").IsDown());
+  }
+
+  void errorStateLocksTheListedKeys() {
+    f_->Type(QStringLiteral("5/0="));
+    QCOMPARE(f_->DisplayText(), QStringLiteral("Error."));
+    auto* message = qobject_cast<QLabel*>(f_->Widget("MessageText"));
+    QVERIFY(message && message->isVisible());
+    QVERIFY(!message->text().isEmpty());
+    // Every locked control whose widget exists now is disabled on screen; the tab
+    // pages' widgets are made disabled when advanced mode shows them.
+    const auto check_locked = [&](bool locked) {
+      int seen = 0;
+      for (const Control* control : f_->Calc().ErrorStateControls()) {
+        QWidget* widget = f_->View().Canvas().WidgetFor(*control);
+        if (!widget) continue;
+        ++seen;
+        if (widget->isEnabled() == locked)
+          return QString::fromStdString(control->FullName()) + QStringLiteral(" wrong");
+      }
+      return seen > 0 ? QString() : QStringLiteral("no widget seen");
+    };
+    QCOMPARE(check_locked(true), QString());
+    QVERIFY(f_->Widget("ButtonClear")->isEnabled());
+    f_->Click("ShowAdvancedFeaturesButton");
+    f_->WaitForResize();
+    QVERIFY(!f_->Widget("ButtonSine")->isEnabled());
+    QCOMPARE(check_locked(true), QString());
+    // A click on a locked key does nothing; C is the way out.
+    f_->Click("Button7");
+    QCOMPARE(f_->DisplayText(), QStringLiteral("Error."));
+    f_->Click("ButtonClear");
+    QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
+    QVERIFY(!message->isVisible());
+    QCOMPARE(check_locked(false), QString());
+  }
+
+ private:
+  std::unique_ptr<GuiFixture> f_;
+};
+
+int RunKeypadTests(int argc, char** argv) {
+  KeypadTest test;
+  return QTest::qExec(&test, argc, argv);
+}
+
+}  // namespace tessarine::desktop::testing
+
+#include "keypad_test.moc"

@@ -1,0 +1,39 @@
+// The GUI tests: one Qt Test class per suite, chosen by the first argument
+// (`gui_tests keypad`), the rest going to Qt Test. CTest runs each suite on the
+// offscreen platform.
+#include <QApplication>
+#include <clocale>
+#include <cstdio>
+#include <cstring>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "desktop_app.hpp"
+#include "suites.hpp"
+
+int main(int argc, char** argv) {
+  const std::map<std::string, std::function<int(int, char**)>> suites = {
+      {"keypad", tessarine::desktop::testing::RunKeypadTests},
+      {"modes", tessarine::desktop::testing::RunModesTests},
+      {"menus", tessarine::desktop::testing::RunMenusTests},
+      {"loops", tessarine::desktop::testing::RunLoopsTests},
+      {"view", tessarine::desktop::testing::RunViewTests},
+  };
+  if (argc < 2 || !suites.count(argv[1])) {
+    std::fprintf(stderr, "usage: gui_tests {keypad|modes|menus|loops|view} [Qt Test options]\n");
+    return 2;
+  }
+  const auto& run = suites.at(argv[1]);
+  // Qt Test sees the program's name and its own options.
+  argv[1] = argv[0];
+  --argc;
+  ++argv;
+
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication app(argc, argv);
+  std::setlocale(LC_NUMERIC, "C");
+  tessarine::desktop::ConfigureApplication(app);
+  app.setQuitOnLastWindowClosed(false);
+  return run(argc, argv);
+}

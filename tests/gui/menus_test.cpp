@@ -1,0 +1,135 @@
+// The menu bar on screen: built from the model, enabled by the program's rules
+// when a menu opens, commands and shortcuts, copy and paste through the real
+// clipboard, Quit and the main window's close.
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
+#include "gui_fixture.hpp"
+#include "menu_bar_view.hpp"
+#include "runtime/menu_bar.hpp"
+#include "shell/tessarine_app.hpp"
+#include "suites.hpp"
+
+namespace tessarine::desktop::testing {
+
+class MenusTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { f_ = std::make_unique<GuiFixture>(); }
+  void cleanup() {
+    const QStringList left = f_->TakeDialogs();
+    f_.reset();
+    QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral("; "))));
+  }
+
+  void barMirrorsTheModel() {
+    QMenuBar* bar = f_->View().menuBar();
+    QStringList titles;
+    for (QAction* action : bar->actions()) titles << action->text();
+    QCOMPARE(titles, (QStringList{"File", "Edit", "Constants", "Speech", "Help"}));
+    QAction* tape = f_->View().Menus().ActionFor("FileTapeControlMenu");
+    QVERIFY(tape);
+    QCOMPARE(tape->shortcut(), QKeySequence(QStringLiteral("Ctrl+T")));
+    // Cmd+U moves to Ctrl+Shift+U: Ctrl+U rounds up on the keypad.
+    QCOMPARE(f_->View().Menus().ActionFor("CheckForUpdatesMenu")->shortcut(),
+             QKeySequence(QStringLiteral("Ctrl+Shift+U")));
+    // A change of an item shows at once.
+    MenuBar& model = f_->App().GetProgram().App().GetMenuBar();
+    model.SetText(model.Item("EditClear"), "Clear Display");
+    QCOMPARE(f_->View().Menus().ActionFor("EditClear")->text(), QStringLiteral("Clear Display"));
+  }
+
+  void openingAMenuRunsTheEnablingRules() {
+    MenuBar& model = f_->App().GetProgram().App().GetMenuBar();
+    QAction* constant = f_->View().Menus().ActionFor("MenuConstant", 0);
+    QAction* copy = f_->View().Menus().ActionFor("EditCopy");
+    QVERIFY(constant && copy);
+    // An entry of the constants without a name is hidden (and so disabled); a
+    // named one shows.
+    QVERIFY(!constant->isVisible());
+    model.SetText(model.Item("MenuConstant", 0), "Pi");
+    QVERIFY(constant->isVisible());
+    // Disabled behind the program's back; opening the menu enables them again.
+    model.SetEnabled(model.Item("EditCopy"), false);
+    model.SetEnabled(model.Item("MenuConstant", 0), false);
+    QVERIFY(!copy->isEnabled());
+    OpenAndClose("UntitledMenu1");
+    QVERIFY(copy->isEnabled());
+    OpenAndClose("ConstantsMenu");
+    QVERIFY(constant->isEnabled());
+    QVERIFY(!f_->View().Menus().ActionFor("FileSaveTape")->isEnabled() ||
+            f_->App().GetProgram().TapeChanged);
+    // In the error state the constants follow the clear-entry key.
+    f_->Type(QStringLiteral("5/0="));
+    OpenAndClose("ConstantsMenu");
+    QVERIFY(!constant->isEnabled());
+    QVERIFY(f_->View().Menus().ActionFor("MenuCustomize")->isEnabled());
+    f_->Click("ButtonClear");
+    OpenAndClose("ConstantsMenu");
+    QVERIFY(constant->isEnabled());
+  }
+
+  void copyAndPasteThroughTheClipboard() {
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    f_->Type(QStringLiteral("12.5"));
+    f_->Key(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(clipboard->text(), QStringLiteral("12.5"));
+    // The double in full, not the text on display.
+    f_->Type(QStringLiteral("c2/3="));
+    f_->View().Menus().ActionFor("EditCopy")->trigger();
+    QCOMPARE(f_->DisplayText(), QStringLiteral("0.66666667"));
+    QCOMPARE(clipboard->text(), QStringLiteral("0.6666666666666666"));
+
+    clipboard->setText(QStringLiteral("3.25"));
+    f_->Key(Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(f_->DisplayText(), QStringLiteral("3.25"));
+    QCOMPARE(f_->Calc().Result, 3.25);
+    // Paste of an empty clipboard changes nothing.
+    f_->Type(QStringLiteral("c"));
+    clipboard->clear();
+    f_->View().Menus().ActionFor("EditPaste")->trigger();
+    QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
+    QCOMPARE(f_->Calc().Result, 0.0);
+  }
+
+  void quitClosesTheMainWindow() {
+    CalcWindow& calc = f_->Calc();
+    f_->Key(Qt::Key_Q, Qt::ControlModifier);
+    QVERIFY(!calc.IsOpen());
+    QVERIFY(f_->Platform().QuitRequested());
+    QTRY_VERIFY(!f_->View().isVisible());
+  }
+
+  void closingTheMainWindowEndsTheSession() {
+    CalcWindow& calc = f_->Calc();
+    QVERIFY(f_->View().close());
+    QVERIFY(!calc.IsOpen());
+    QVERIFY(f_->Platform().QuitRequested());
+  }
+
+ private:
+  // Opens a menu of the bar as the user would, then closes it.
+  void OpenAndClose(const char* menu_name) {
+    auto* menu = f_->View().menuBar()->findChild<QMenu*>(QString::fromLatin1(menu_name));
+    QVERIFY(menu);
+    menu->popup(f_->View().mapToGlobal(QPoint(0, 0)));
+    QTRY_VERIFY(menu->isVisible());
+    menu->close();
+  }
+
+  std::unique_ptr<GuiFixture> f_;
+};
+
+int RunMenusTests(int argc, char** argv) {
+  MenusTest test;
+  return QTest::qExec(&test, argc, argv);
+}
+
+}  // namespace tessarine::desktop::testing
+
+#include "menus_test.moc"

@@ -1,0 +1,12 @@
+// The suites of the GUI tests, each a Qt Test class in its own file.
+#pragma once
+
+namespace tessarine::desktop::testing {
+
+int RunKeypadTests(int argc, char** argv);
+int RunModesTests(int argc, char** argv);
+int RunMenusTests(int argc, char** argv);
+int RunLoopsTests(int argc, char** argv);
+int RunViewTests(int argc, char** argv);
+
+}  // namespace tessarine::desktop::testing
