@@ -5,6 +5,7 @@
 #include <QStyleFactory>
 #include <QWindow>
 
+#include "calculator/calc_window.hpp"
 #include "main_window_view.hpp"
 #include "window_dialog.hpp"
 
@@ -24,11 +25,38 @@ void ConfigureApplication(QApplication& app) {
 DesktopApp::DesktopApp(std::uint64_t random_seed, const std::string& preferences_folder)
     : platform_(preferences_folder), program_(platform_.platform(), random_seed) {
   platform_.SetWindowHost(this);
+  program_.ObserveWindows([this](Window& window) { OnWindowMade(window); });
+}
+
+void DesktopApp::OnWindowMade(Window& window) {
+  // The main window has its own view; a window made anew replaces the old one's.
+  if (&window == program_.ExistingCalcWindow()) return;
+  CloseWindow(window.Name());
+  Window* made = &window;
+  window.Observe([this, made](Control* control, Property property) {
+    if (control || property != Property::Visible) return;
+    if (made->Visible())
+      ShowOwnWindow(*made);
+    else
+      CloseWindow(made->Name());
+  });
+}
+
+void DesktopApp::ShowOwnWindow(Window& window) {
+  if (DialogFor(window.Name())) return;
+  auto* dialog = new WindowDialog(window, nullptr);
+  dialogs_[window.Name()] = dialog;
+  Window* shown = &window;
+  dialog->on_user_close = [this, shown] {
+    dialogs_.erase(shown->Name());
+    if (shown->IsOpen()) shown->Close();
+  };
+  dialog->show();
 }
 
 DesktopApp::~DesktopApp() {
   for (auto& [name, dialog] : dialogs_)
-    if (dialog && !dialog->parent()) delete dialog.data();
+    if (dialog && !dialog->IsSheet()) delete dialog.data();
   main_view_.reset();
   platform_.SetWindowHost(nullptr);
 }
@@ -58,7 +86,7 @@ void DesktopApp::ShowWindow(const std::string& window_name, bool as_sheet) {
 
 void DesktopApp::CloseWindow(const std::string& window_name) {
   if (WindowDialog* dialog = DialogFor(window_name)) {
-    const bool sheet = dialog->parentWidget() != nullptr;
+    const bool sheet = dialog->IsSheet();
     dialog->CloseFromProgram();
     // The keys are the main window's again, with or without a window manager.
     if (sheet && main_view_) main_view_->activateWindow();

@@ -49,6 +49,11 @@ class DesktopApp final : public WindowHost {
   QObject* KeyTarget() override;
 
  private:
+  // A window of the program was made: it shows on its own when its Visible turns
+  // true (the tape), and hides when it turns false.
+  void OnWindowMade(Window& window);
+  void ShowOwnWindow(Window& window);
+
   QtPlatform platform_;
   Program program_;
   std::unique_ptr<MainWindowView> main_view_;

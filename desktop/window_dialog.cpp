@@ -8,19 +8,34 @@
 namespace tessarine::desktop {
 
 WindowDialog::WindowDialog(Window& window, QWidget* sheet_parent)
-    : QDialog(sheet_parent), binding_(new WindowCanvas(window, *this)) {
+    : QDialog(sheet_parent),
+      window_(window),
+      binding_(new WindowCanvas(window, *this)),
+      sheet_(sheet_parent != nullptr) {
   setObjectName(QString::fromStdString(window.Name()));
   setWindowTitle(QStringLiteral("Tessarine"));
-  // No close button: the program closes the window when its work is done.
-  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
-  if (sheet_parent) setWindowModality(Qt::WindowModal);
-  setFixedSize(window.Width(), window.Height());
-  binding_->SetViewport(QRect(0, 0, window.Width(), window.Height()));
-  if (sheet_parent) {
+  if (sheet_) {
+    // No close button: the program closes the sheet when its work is done.
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    setWindowModality(Qt::WindowModal);
     // Where a sheet drops from: the top of the main window, centred.
     const QRect parent = sheet_parent->geometry();
     move(parent.x() + (parent.width() - window.Width()) / 2, parent.y() + 24);
+  } else {
+    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    // Shown beside the main window, which keeps the keyboard.
+    setAttribute(Qt::WA_ShowWithoutActivating);
   }
+  binding_->on_window_bounds = [this] { ApplyBounds(); };
+  ApplyBounds();
+}
+
+void WindowDialog::ApplyBounds() {
+  applying_ = true;
+  setFixedSize(window_.Width(), window_.Height());
+  binding_->SetViewport(QRect(0, 0, window_.Width(), window_.Height()));
+  if (!sheet_) move(window_.Left(), window_.Top());
+  applying_ = false;
 }
 
 void WindowDialog::CloseFromProgram() {
@@ -30,9 +45,28 @@ void WindowDialog::CloseFromProgram() {
   deleteLater();
 }
 
+void WindowDialog::reject() {
+  // Escape closes a window of its own, as its close button does; never a sheet.
+  if (!sheet_) close();
+}
+
 void WindowDialog::closeEvent(QCloseEvent* event) {
-  // Neither the window manager's close nor Escape: the program closes it.
-  event->ignore();
+  if (sheet_ || closing_) {
+    event->ignore();
+    return;
+  }
+  closing_ = true;
+  event->accept();
+  deleteLater();
+  if (on_user_close) on_user_close();
+}
+
+void WindowDialog::moveEvent(QMoveEvent* event) {
+  QDialog::moveEvent(event);
+  if (sheet_ || applying_ || !isVisible()) return;
+  const QPoint place = geometry().topLeft();
+  if (place.x() != window_.Left() || place.y() != window_.Top())
+    window_.SetBounds(place.x(), place.y(), window_.Width(), window_.Height());
 }
 
 }  // namespace tessarine::desktop

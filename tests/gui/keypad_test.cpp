@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "control_widgets.hpp"
+#include "key_events.hpp"
 #include "gui_fixture.hpp"
 #include "suites.hpp"
 #include "window_canvas.hpp"
@@ -48,6 +49,44 @@ class KeypadTest : public QObject {
     f_->Key(Qt::Key_Minus, Qt::ControlModifier);
     QCOMPARE(f_->DisplayText(), QStringLiteral("-3."));
     QCOMPARE(f_->Calc().Result, -3.0);
+  }
+
+  void qtKeysBecomeChords() {
+    // What a Qt key event is to the core's translation, and what reaches the map.
+    struct Case {
+      int key;
+      Qt::KeyboardModifiers modifiers;
+      QString text;
+      const char* chord;         // nullptr: no chord at all
+      const char16_t* map_text;  // nullptr: the map gets nothing
+    };
+    const Case cases[] = {
+        {Qt::Key_2, Qt::NoModifier, "2", "2", u"2"},
+        {Qt::Key_Return, Qt::NoModifier, "\r", "Return", u"\r"},
+        {Qt::Key_Enter, Qt::KeypadModifier, "\r", "Enter", u"\u0003"},
+        {Qt::Key_Escape, Qt::NoModifier, "\x1b", "Escape", u"\u001b"},
+        {Qt::Key_Space, Qt::NoModifier, " ", "space", u" "},
+        {Qt::Key_Period, Qt::ControlModifier, "", ".", u"."},
+        {Qt::Key_A, Qt::ControlModifier, "\x01", "a", u"\u0001"},
+        {Qt::Key_Minus, Qt::ControlModifier, "\x1f", "-", u"\u001f"},
+        {Qt::Key_S, Qt::AltModifier | Qt::ShiftModifier, "S", "s", u"\u00cd"},
+        {Qt::Key_2, Qt::AltModifier, "2", "2", u"\u2122"},
+        {Qt::Key_Exclam, Qt::ShiftModifier, "!", "!", u"!"},
+        {Qt::Key_plusminus, Qt::NoModifier, "\u00b1", "\u00b1", u"\u00b1"},
+        {Qt::Key_C, Qt::ControlModifier, "\x03", "c", nullptr},  // Copy's
+        {Qt::Key_F5, Qt::NoModifier, "", "F5", nullptr},
+        {Qt::Key_Control, Qt::ControlModifier, "", nullptr, nullptr},
+    };
+    for (const Case& c : cases) {
+      const auto chord = ChordForKey(c.key, c.modifiers, c.text);
+      const QString what = QKeySequence(QKeyCombination(c.modifiers, Qt::Key(c.key))).toString();
+      QVERIFY2(chord.has_value() == (c.chord != nullptr), qPrintable(what));
+      if (!chord) continue;
+      QCOMPARE(QString::fromStdString(chord->key), QString::fromUtf8(c.chord));
+      const auto map = MapKeyForChord(chord->key, chord->modifiers);
+      QVERIFY2(map.has_value() == (c.map_text != nullptr), qPrintable(what));
+      if (map) QCOMPARE(QString::fromStdString(map->text), QString::fromUtf16(c.map_text));
+    }
   }
 
   void clicksOnKeysRunTheirActions() {

@@ -10,6 +10,7 @@
 
 #include "gui_fixture.hpp"
 #include "menu_bar_view.hpp"
+#include "window_dialog.hpp"
 #include "runtime/menu_bar.hpp"
 #include "shell/tessarine_app.hpp"
 #include "suites.hpp"
@@ -95,6 +96,30 @@ class MenusTest : public QObject {
     f_->View().Menus().ActionFor("EditPaste")->trigger();
     QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
     QCOMPARE(f_->Calc().Result, 0.0);
+  }
+
+  void showTapeOpensItsOwnWindow() {
+    // Ctrl+T shows the tape beside the main window, which keeps the keyboard.
+    f_->Key(Qt::Key_T, Qt::ControlModifier);
+    WindowDialog* tape = f_->App().DialogFor("TapeWindow");
+    QVERIFY(tape);
+    QVERIFY(QTest::qWaitForWindowExposed(tape));
+    QCOMPARE(tape->windowModality(), Qt::NonModal);
+    Window* model = f_->App().GetProgram().FindOpenWindow("TapeWindow");
+    QVERIFY(model && model->Visible());
+    QCOMPARE(tape->size(), QSize(model->Width(), model->Height()));
+    QVERIFY(tape->findChild<QWidget*>(QStringLiteral("TapeEditField")));
+    // Ctrl+T again hides it.
+    f_->Key(Qt::Key_T, Qt::ControlModifier);
+    QVERIFY(!f_->App().DialogFor("TapeWindow"));
+    QVERIFY(!model->Visible());
+    // Shown again and closed by the user: the model's window closes.
+    f_->Key(Qt::Key_T, Qt::ControlModifier);
+    tape = f_->App().DialogFor("TapeWindow");
+    QVERIFY(tape);
+    QVERIFY(tape->close());
+    QVERIFY(!f_->App().DialogFor("TapeWindow"));
+    QVERIFY(!f_->App().GetProgram().FindOpenWindow("TapeWindow"));
   }
 
   void quitClosesTheMainWindow() {
