@@ -129,7 +129,11 @@ void Window::Dispatch(std::string_view handler_name, const std::function<void()>
 }
 
 void Window::NotifyChanged(Control* control, Property property) {
-  for (const auto& observer : observers_) observer(control, property);
+  // An observer may add observers (a front end builds a window's view when the
+  // window shows): those present when the change happened are told, by index,
+  // since the vector may grow meanwhile.
+  const std::size_t count = observers_.size();
+  for (std::size_t i = 0; i < count; ++i) observers_[i](control, property);
 }
 
 }  // namespace tessarine
