@@ -20,6 +20,9 @@ cleanup() {
 trap cleanup EXIT
 export XDG_CONFIG_HOME=$work/config QT_QPA_PLATFORM=xcb
 unset WAYLAND_DISPLAY
+# Under the sanitizers, the system libraries' own leaks are not the program's.
+LSAN_OPTIONS="suppressions=$(dirname "$0")/lsan.supp${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
+export LSAN_OPTIONS
 
 fail() {
   echo "FAIL: $*" >&2
