@@ -46,7 +46,9 @@ class Driver {
   void Restart();
 
   using Command = std::function<void(const std::vector<Word>& args, std::ostream& out)>;
-  void AddCommand(const std::string& name, Command command) { commands_[name] = std::move(command); }
+  void AddCommand(const std::string& name, Command command) {
+    commands_[name] = std::move(command);
+  }
 
  private:
   void AddControlCommands();

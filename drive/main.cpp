@@ -12,7 +12,8 @@
 namespace {
 
 int Usage() {
-  std::cerr << "usage: tessarine-drive [--prefs-dir DIR] [--decimal-separator C] [--screen WxH] [SCRIPT]\n";
+  std::cerr << "usage: tessarine-drive [--prefs-dir DIR] [--decimal-separator C] [--screen WxH] "
+               "[SCRIPT]\n";
   return 2;
 }
 

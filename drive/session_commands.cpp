@@ -17,7 +17,8 @@ int IntWord(const Word& word) {
   int value = 0;
   const std::string& s = word.text;
   auto [end, ec] = std::from_chars(s.data(), s.data() + s.size(), value);
-  if (ec != std::errc() || end != s.data() + s.size()) throw ScriptError("expected a whole number, got " + s);
+  if (ec != std::errc() || end != s.data() + s.size())
+    throw ScriptError("expected a whole number, got " + s);
   return value;
 }
 
@@ -53,7 +54,8 @@ void AddSessionCommands(Driver& driver) {
 
   // The mouse on a control, at a point in the control's own coordinates.
   driver.AddCommand("mouse", [&driver](const std::vector<Word>& args, std::ostream&) {
-    if (args.size() < 2) throw ScriptError("usage: mouse CONTROL down|up|move X Y, or mouse CONTROL exit");
+    if (args.size() < 2)
+      throw ScriptError("usage: mouse CONTROL down|up|move X Y, or mouse CONTROL exit");
     const Target target = Resolve(driver.Program(), args[0].text);
     if (!target.control) throw ScriptError(args[0].text + " is not a control");
     Control& c = *target.control;

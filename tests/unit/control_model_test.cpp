@@ -157,7 +157,9 @@ TEST_F(ControlModelTest, TimersFireOnVirtualTimeInOrder) {
   std::vector<std::string> fired;
   Timer& once = window.AddTimer("Once", 100, Timer::kOff);
   Timer& tick = window.AddTimer("Tick", 30, Timer::kOff);
-  once.Action = [&] { fired.push_back("once@" + std::to_string(headless.NowMicroseconds() / 1000)); };
+  once.Action = [&] {
+    fired.push_back("once@" + std::to_string(headless.NowMicroseconds() / 1000));
+  };
   tick.Action = [&] { fired.push_back("tick@" + std::to_string(headless.NowMicroseconds() / 1000)); };
   once.SetMode(Timer::kSingle);
   tick.SetMode(Timer::kMultiple);
