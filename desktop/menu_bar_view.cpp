@@ -35,6 +35,10 @@ MenuBarView::MenuBarView(TessarineApp& app, QMenuBar& bar) : QObject(&bar), app_
 }
 
 void MenuBarView::Rebuild() {
+  // The old menus go once the event that changed the tree is over (it may be one
+  // of their own items').
+  for (QAction* action : bar_.actions())
+    if (QMenu* menu = action->menu()) menu->deleteLater();
   bar_.clear();
   actions_.clear();
   for (const Menu& menu : app_.GetMenuBar().Menus()) {

@@ -43,6 +43,17 @@ class MenusTest : public QObject {
     MenuBar& model = f_->App().GetProgram().App().GetMenuBar();
     model.SetText(model.Item("EditClear"), "Clear Display");
     QCOMPARE(f_->View().Menus().ActionFor("EditClear")->text(), QStringLiteral("Clear Display"));
+    // A change of the tree builds the bar anew, without the old menus.
+    const auto menus = [bar] { return bar->findChildren<QMenu*>(Qt::FindDirectChildrenOnly).size(); };
+    const qsizetype before = menus();  // the five, and the bar's own overflow menu
+    MenuItem extra;
+    extra.name = "ExtraItem";
+    extra.text = "Extra";
+    model.AddMenu({"ExtraMenu", "Extra", {extra}});
+    QCOMPARE(bar->actions().size(), 6);
+    QVERIFY(f_->View().Menus().ActionFor("ExtraItem"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(menus(), before + 1);
   }
 
   void openingAMenuRunsTheEnablingRules() {
