@@ -119,10 +119,19 @@ void SetProperty(const Target& target, const std::string& property, const Word& 
     throw ScriptError("cannot set timer property " + property);
   }
   if (!target.control) {
-    // Moving a window, as the user drags it.
+    // Moving or resizing a window, as the user drags it.
     Window& w = *target.window;
-    if (StrEq(property, "Left")) return w.SetBounds(IntWord(value), w.Top(), w.Width(), w.Height());
-    if (StrEq(property, "Top")) return w.SetBounds(w.Left(), IntWord(value), w.Width(), w.Height());
+    const auto user = [&](const char* what, const std::function<void()>& change) {
+      w.Dispatch(std::string("Event_") + what, change);
+    };
+    if (StrEq(property, "Left"))
+      return user("Moved", [&] { w.UserMoved(IntWord(value), w.Top()); });
+    if (StrEq(property, "Top"))
+      return user("Moved", [&] { w.UserMoved(w.Left(), IntWord(value)); });
+    if (StrEq(property, "Width"))
+      return user("Resized", [&] { w.UserResized(IntWord(value), w.Height()); });
+    if (StrEq(property, "Height"))
+      return user("Resized", [&] { w.UserResized(w.Width(), IntWord(value)); });
     throw ScriptError("cannot set window property " + property);
   }
   Control& c = *target.control;

@@ -2,7 +2,6 @@
 
 #include <charconv>
 
-#include "calculator/tape_window.hpp"
 #include "driver.hpp"
 #include "json_text.hpp"
 #include "names.hpp"
@@ -29,10 +28,14 @@ bool IsButton(ControlKind kind) {
 
 template <typename T>
 void PrintFamily(std::ostream& out, const char* family, const std::vector<PrefsEntry<T>>& entries,
-                 std::string (*value)(const T&)) {
-  for (const auto& e : entries)
+                 std::string (*value)(const T&), const std::vector<Word>& keys) {
+  for (const auto& e : entries) {
+    bool wanted = keys.empty();
+    for (const Word& key : keys) wanted = wanted || key.text == e.key;
+    if (!wanted) continue;
     out << "{\"family\":\"" << family << "\",\"key\":" << JsonString(e.key)
         << ",\"value\":" << value(e.value) << ",\"scrambled\":" << JsonBool(e.scrambled) << "}\n";
+  }
 }
 
 }  // namespace
@@ -85,16 +88,15 @@ void AddSessionCommands(Driver& driver) {
     }
   });
 
-  // Text files dropped on a control (the tape accepts them).
+  // Files dropped on a control that takes them (the tape does).
   driver.AddCommand("drop", [&driver](const std::vector<Word>& args, std::ostream&) {
     if (args.size() < 2) throw ScriptError("usage: drop CONTROL FILE...");
     const Target target = Resolve(driver.Program(), args[0].text);
-    auto* tape = dynamic_cast<TapeWindow*>(target.window);
-    if (!target.control || !tape || target.control != &tape->TapeEditField)
+    if (!target.control || !target.control->events.DropObject)
       throw ScriptError(args[0].text + " takes no dropped files");
     std::vector<std::string> paths;
     for (std::size_t i = 1; i < args.size(); ++i) paths.push_back(args[i].text);
-    tape->Dispatch("TapeEditField_DropObject", [&] { tape->TapeEditField_DropObject(paths); });
+    target.control->UserDropFiles(paths);
   });
 
   // The user's answer to the next dialog: `answer TEXT`, or `answer` alone to cancel.
@@ -122,16 +124,18 @@ void AddSessionCommands(Driver& driver) {
     prefs.WriteOut();
   });
 
-  // Every entry of the preferences store, as it is in memory.
+  // The entries of the preferences store as they are in memory: every one, or
+  // those of the keys given.
   driver.AddCommand("prefs", [&driver](const std::vector<Word>& args, std::ostream& out) {
-    if (!args.empty()) throw ScriptError("usage: prefs");
     const PrefsData& data = driver.Program().Prefs().Data();
-    PrintFamily<bool>(out, "boolean", data.booleans, [](const bool& b) { return JsonBool(b); });
-    PrintFamily<std::string>(out, "string", data.strings,
-                             [](const std::string& s) { return JsonString(s); });
-    PrintFamily<std::string>(out, "color", data.colors,
-                             [](const std::string& s) { return JsonString(s); });
-    PrintFamily<double>(out, "number", data.numbers, [](const double& d) { return JsonNumber(d); });
+    PrintFamily<bool>(
+        out, "boolean", data.booleans, [](const bool& b) { return JsonBool(b); }, args);
+    PrintFamily<std::string>(
+        out, "string", data.strings, [](const std::string& s) { return JsonString(s); }, args);
+    PrintFamily<std::string>(
+        out, "color", data.colors, [](const std::string& s) { return JsonString(s); }, args);
+    PrintFamily<double>(
+        out, "number", data.numbers, [](const double& d) { return JsonNumber(d); }, args);
   });
 }
 

@@ -1,5 +1,7 @@
 #include "calculator/tape_window.hpp"
 
+#include <algorithm>
+
 #include "calculator/calc_window.hpp"
 #include "runtime/text.hpp"
 #include "shell/program.hpp"
@@ -20,6 +22,10 @@ TapeWindow::TapeWindow(Program& program)
   SetVisible(false);  // it exists from the first write on, shown or not
   SetBounds(program.Globals().TapeWindowLeftPosition, program.Globals().TapeWindowTopPosition, 205,
             program.Globals().TapeWindowHeight);
+  LayOut();
+  TapeEditField.events.DropObject = [this](const std::vector<std::string>& paths) {
+    TapeEditField_DropObject(paths);
+  };
 
   PrefsModule& prefs = program.Prefs();
   TapeOnButton.events.Action = [&prefs] { prefs.SetBooleanValue("TapeOn", true, true); };
@@ -38,7 +44,8 @@ TapeWindow::TapeWindow(Program& program)
 void TapeWindow::Event_Open() {
   const GlobalStuff& globals = program_.Globals();
   SetBounds(globals.TapeWindowLeftPosition, globals.TapeWindowTopPosition, 205,
-            globals.TapeWindowHeight);
+            std::max(globals.TapeWindowHeight, MinimumHeight()));
+  LayOut();
   const CalcWindow* calc = program_.ExistingCalcWindow();
   if (calc && calc->TapeOnAtStartup)
     TapeOnButton.SetValue(true);
@@ -51,6 +58,26 @@ void TapeWindow::Event_Moved() {
   globals.TapeWindowLeftPosition = Left();
   globals.TapeWindowTopPosition = Top();
   globals.TapeWindowHeight = Height();
+}
+
+void TapeWindow::UserMoved(int left, int top) {
+  SetBounds(left, top, Width(), Height());
+  Event_Moved();
+}
+
+void TapeWindow::UserResized(int, int height) {
+  SetBounds(Left(), Top(), 205, std::max(height, MinimumHeight()));
+  LayOut();
+  Event_Moved();
+}
+
+void TapeWindow::LayOut() {
+  // The field fills the window above a row of buttons at the foot.
+  const int foot = Height() - 26;
+  TapeEditField.SetBounds(0, 0, 205, foot - 6);
+  for (Control* button : {&TapeOnButton, &TapeOffButton, &Get("ClearTapeButton")})
+    button->SetBounds(button->Left(), foot - (button == &TapeOnButton || button == &TapeOffButton ? 0 : 1),
+                      button->Width(), button->Height());
 }
 
 void TapeWindow::TapeEditField_DropObject(const std::vector<std::string>& paths) {

@@ -26,10 +26,16 @@ class TapeWindow final : public Window {
   // The window was moved or resized: its place goes to the settings.
   void Event_Moved();
 
+  // The width is fixed; the height from 100 up, the field taking what it gains.
+  void UserMoved(int left, int top) override;
+  void UserResized(int width, int height) override;
+  int MinimumHeight() const override { return 100; }
+
  protected:
   void Event_Open() override;
 
  private:
+  void LayOut();
   Program& program_;
 };
 

@@ -248,6 +248,11 @@ void Control::UserMouseMove(int x, int y) {
 
 void Control::UserMouseExit() { Raise(events.MouseExit, "MouseExit"); }
 
+void Control::UserDropFiles(const std::vector<std::string>& paths) {
+  if (!enabled_ || !events.DropObject) return;
+  owner_.Dispatch(name_ + "_DropObject", [&] { events.DropObject(paths); });
+}
+
 bool Control::UserCellClick(int row, int column, int x, int y) {
   if (!enabled_ || !events.CellClick) return false;
   bool taken = false;

@@ -104,6 +104,8 @@ struct ControlEvents {
   std::function<void(int x, int y)> MouseUp;
   std::function<void(int x, int y)> MouseMove;
   std::function<void()> MouseExit;
+  // Files dropped on the control, by path; set only on controls that accept drops.
+  std::function<void(const std::vector<std::string>& paths)> DropObject;
   // A list's cell under a click; returns whether the click was taken.
   std::function<bool(int row, int column, int x, int y)> CellClick;
   std::function<void()> GotFocus;
@@ -181,6 +183,7 @@ class Control {
   void UserMouseMove(int x, int y);
   void UserMouseExit();
   bool UserCellClick(int row, int column, int x, int y);
+  void UserDropFiles(const std::vector<std::string>& paths);
 
  private:
   void Notify(Property property);

@@ -55,6 +55,12 @@ class Window {
   int Height() const { return height_; }
   void SetBounds(int left, int top, int width, int height);
 
+  // The user moved or resized the window (a front end reports it). A window whose
+  // height the user may change answers MinimumHeight with a size; -1 is a fixed size.
+  virtual void UserMoved(int left, int top) { SetBounds(left, top, width_, height_); }
+  virtual void UserResized(int width, int height) { SetBounds(left_, top_, width, height); }
+  virtual int MinimumHeight() const { return -1; }
+
   // Where the pointer is, in the window's coordinates; the front end keeps it current.
   int MouseX() const { return mouse_x_; }
   int MouseY() const { return mouse_y_; }
