@@ -4,6 +4,7 @@
 # galculator, on a private Xvfb display with no window manager.
 #
 #   bench/startup/run_startup_bench.sh [-n ROUNDS] [-t TESSARINE] [-o RESULTS] BUILD_DIR
+#   bench/startup/run_startup_bench.sh -r RESULTS     (only the table of earlier runs)
 #
 # BUILD_DIR is a build with -DTESSARINE_BENCH=ON; the probe and the empty window
 # are found through BUILD_DIR/bench/startup/startup_programs.env, tessarine there
@@ -14,133 +15,138 @@
 # rounds (15 unless told) in which every program runs once, the order turning by
 # one each round, so that whatever disturbs the machine meets all of them alike.
 # Every run gets a fresh, empty HOME and XDG folders, no session bus, a plain PATH,
-# LANG=C.UTF-8 and QT_QPA_PLATFORM=xcb (run_clean in startup_common.sh). The raw lines go to RESULTS (BUILD_DIR/bench/startup/
-# startup_results.txt unless told); the table of medians goes to standard output.
+# LANG=C.UTF-8 and QT_QPA_PLATFORM=xcb (run_clean in startup_common.sh). The raw
+# lines go to RESULTS (BUILD_DIR/bench/startup/startup_results.txt unless told);
+# the table of medians and ratios goes to standard output.
 set -eu
 
 rounds=15
 tessarine=
 results=
+report_only=
 usage() {
   echo "usage: $0 [-n ROUNDS] [-t TESSARINE] [-o RESULTS] BUILD_DIR" >&2
+  echo "       $0 -r RESULTS" >&2
   exit 2
 }
-while getopts n:t:o: option; do
+while getopts n:t:o:r: option; do
   case $option in
     n) rounds=$OPTARG ;;
     t) tessarine=$OPTARG ;;
     o) results=$OPTARG ;;
+    r) report_only=$OPTARG ;;
     *) usage ;;
   esac
 done
 shift $((OPTIND - 1))
-[ $# -eq 1 ] || usage
-build=$1
 
-programs_file=$build/bench/startup/startup_programs.env
-if [ ! -f "$programs_file" ]; then
-  echo "start-up benchmark: $programs_file is missing; configure $build with -DTESSARINE_BENCH=ON" \
-       "(it needs Qt 6 Widgets and libxcb)" >&2
-  exit 1
-fi
-. "$(dirname "$0")/startup_common.sh"
-setting() { startup_setting "$programs_file" "$1"; }
-probe=$(setting PROBE)
-empty_qt_window=$(setting EMPTY_QT_WINDOW)
-[ -n "$tessarine" ] || tessarine=$(setting TESSARINE)
-[ -n "$tessarine" ] || tessarine=$build/desktop/tessarine
-[ -n "$results" ] || results=$build/bench/startup/startup_results.txt
-programs_log=${results%.txt}.log
-for tool in Xvfb "$probe" "$empty_qt_window"; do
-  if ! command -v "$tool" > /dev/null 2>&1; then
-    echo "start-up benchmark: $tool is missing" >&2
+measure() {
+  programs_file=$build/bench/startup/startup_programs.env
+  if [ ! -f "$programs_file" ]; then
+    echo "start-up benchmark: $programs_file is missing; configure $build with -DTESSARINE_BENCH=ON" \
+         "(it needs Qt 6 Widgets and libxcb)" >&2
     exit 1
   fi
-done
-
-# The programs measured, the baseline first: their names in "names", their paths
-# in path_NAME.
-names=
-add_program() {
-  names="$names $1"
-  eval "path_$1=\$2"
-}
-add_program empty_qt "$empty_qt_window"
-if [ "$tessarine" = none ]; then
-  echo "tessarine: left out (-t none); its column is skipped"
-elif [ -x "$tessarine" ]; then
-  add_program tessarine "$tessarine"
-else
-  echo "tessarine: not built ($tessarine is missing); its column is skipped"
-fi
-for debian in speedcrunch galculator; do
-  if found=$(command -v "$debian"); then
-    add_program "$debian" "$found"
-  else
-    echo "$debian: not installed (Debian package $debian); its column is skipped"
-  fi
-done
-count=$(echo $names | wc -w)
-
-work=$(mktemp -d "${TMPDIR:-/tmp}/tessarine-startup.XXXXXX")
-cleanup() {
-  stop_xvfb
-  rm -rf "$work"
-}
-trap cleanup EXIT
-trap 'exit 130' INT TERM
-
-start_xvfb
-
-# One run: prints "round name map_ms rss_kib tree_rss_kib procs size", or a message
-# on standard error. sh has no local variables: those of this function begin run_.
-run_one() {
-  run_round=$1
-  run_name=$2
-  eval "run_path=\$path_$run_name"
-  run_line=$(run_clean "$probe" --settle 2000 -- "$run_path" 2>> "$programs_log")
-  case $run_line in
-    map_ms=*)
-      echo "$run_round $run_name $run_line" | sed 's/[a-z_]*=//g' | awk '{print $1, $2, $3, $4, $5, $6, $8}'
-      ;;
-    *)
-      echo "$run_name: run failed in round $run_round: ${run_line:-no output}" >&2
-      ;;
-  esac
-  sleep 0.2
-}
-
-echo "Start-up benchmark on display $display: $count programs, 1 warm-up round + $rounds rounds"
-mkdir -p "$(dirname "$results")"
-: > "$programs_log"
-{
-  echo "# round program map_ms rss_kib tree_rss_kib procs window_size"
-  echo "# $(date -u '+%Y-%m-%d %H:%M UTC'), $(uname -sr), $(nproc) CPUs," \
-       "$(sed -n 's/^model name[[:space:]]*: //p' /proc/cpuinfo | head -n 1)"
-  echo "# load average before: $(cut -d ' ' -f 1-3 /proc/loadavg)"
-} > "$results"
-round=0
-while [ $round -le "$rounds" ]; do
-  # Turn the order by one each round.
-  set -- $names
-  turn=$((round % count))
-  while [ $turn -gt 0 ]; do
-    first=$1
-    shift
-    set -- "$@" "$first"
-    turn=$((turn - 1))
-  done
-  for name in "$@"; do
-    if [ $round -eq 0 ]; then
-      run_one warmup "$name" > /dev/null
-    else
-      run_one "$round" "$name" >> "$results"
+  . "$(dirname "$0")/startup_common.sh"
+  setting() { startup_setting "$programs_file" "$1"; }
+  probe=$(setting PROBE)
+  empty_qt_window=$(setting EMPTY_QT_WINDOW)
+  [ -n "$tessarine" ] || tessarine=$(setting TESSARINE)
+  [ -n "$tessarine" ] || tessarine=$build/desktop/tessarine
+  [ -n "$results" ] || results=$build/bench/startup/startup_results.txt
+  programs_log=${results%.txt}.log
+  for tool in Xvfb "$probe" "$empty_qt_window"; do
+    if ! command -v "$tool" > /dev/null 2>&1; then
+      echo "start-up benchmark: $tool is missing" >&2
+      exit 1
     fi
   done
-  printf '.'
-  round=$((round + 1))
-done
-echo
+
+  # The programs measured, the baseline first: their names in "names", their paths
+  # in path_NAME.
+  names=
+  add_program() {
+    names="$names $1"
+    eval "path_$1=\$2"
+  }
+  add_program empty_qt "$empty_qt_window"
+  if [ "$tessarine" = none ]; then
+    echo "tessarine: left out (-t none); its column is skipped"
+  elif [ -x "$tessarine" ]; then
+    add_program tessarine "$tessarine"
+  else
+    echo "tessarine: not built ($tessarine is missing); its column is skipped"
+  fi
+  for debian in speedcrunch galculator; do
+    if found=$(command -v "$debian"); then
+      add_program "$debian" "$found"
+    else
+      echo "$debian: not installed (Debian package $debian); its column is skipped"
+    fi
+  done
+  count=$(echo $names | wc -w)
+
+  work=$(mktemp -d "${TMPDIR:-/tmp}/tessarine-startup.XXXXXX")
+  cleanup() {
+    stop_xvfb
+    rm -rf "$work"
+  }
+  trap cleanup EXIT
+  trap 'exit 130' INT TERM
+
+  start_xvfb
+
+  # One run: prints "round name map_ms rss_kib tree_rss_kib procs size", or a message
+  # on standard error. sh has no local variables: those of this function begin run_.
+  run_one() {
+    run_round=$1
+    run_name=$2
+    eval "run_path=\$path_$run_name"
+    run_line=$(run_clean "$probe" --settle 2000 -- "$run_path" 2>> "$programs_log")
+    case $run_line in
+      map_ms=*)
+        echo "$run_round $run_name $run_line" | sed 's/[a-z_]*=//g' | awk '{print $1, $2, $3, $4, $5, $6, $8}'
+        ;;
+      *)
+        echo "$run_name: run failed in round $run_round: ${run_line:-no output}" >&2
+        ;;
+    esac
+    sleep 0.2
+  }
+
+  echo "Start-up benchmark on display $display: $count programs, 1 warm-up round + $rounds rounds"
+  mkdir -p "$(dirname "$results")"
+  : > "$programs_log"
+  {
+    echo "# round program map_ms rss_kib tree_rss_kib procs window_size"
+    echo "# $(date -u '+%Y-%m-%d %H:%M UTC'), $(uname -sr), $(nproc) CPUs," \
+         "$(sed -n 's/^model name[[:space:]]*: //p' /proc/cpuinfo | head -n 1)"
+    echo "# load average before: $(cut -d ' ' -f 1-3 /proc/loadavg)"
+  } > "$results"
+  round=0
+  while [ $round -le "$rounds" ]; do
+    # Turn the order by one each round.
+    set -- $names
+    turn=$((round % count))
+    while [ $turn -gt 0 ]; do
+      first=$1
+      shift
+      set -- "$@" "$first"
+      turn=$((turn - 1))
+    done
+    for name in "$@"; do
+      if [ $round -eq 0 ]; then
+        run_one warmup "$name" > /dev/null
+      else
+        run_one "$round" "$name" >> "$results"
+      fi
+    done
+    printf '.'
+    round=$((round + 1))
+  done
+  echo
+  echo "# load average after: $(cut -d ' ' -f 1-3 /proc/loadavg)" >> "$results"
+}
 
 median() {
   sort -n | awk '{ v[NR] = $1 }
@@ -151,31 +157,58 @@ column() {  # the values of one field for one program
   awk -v name="$1" -v field="$2" '!/^#/ && $2 == name { print $field }' "$results"
 }
 
+if [ -n "$report_only" ]; then
+  [ $# -eq 0 ] || usage
+  results=$report_only
+  programs_log=${results%.txt}.log
+  names=
+  for name in empty_qt tessarine speedcrunch galculator; do
+    if awk -v name="$name" '!/^#/ && $2 == name { found = 1 } END { exit !found }' "$results"; then
+      names="$names $name"
+    fi
+  done
+  rounds=$(awk '!/^#/ && $1 > n { n = $1 } END { print n + 0 }' "$results")
+else
+  [ $# -eq 1 ] || usage
+  build=$1
+  measure
+fi
+
 base_ms=$(column empty_qt 3 | median)
 base_rss=$(column empty_qt 5 | median)
-echo "# load average after: $(cut -d ' ' -f 1-3 /proc/loadavg)" >> "$results"
 echo
 echo "Medians of $rounds interleaved runs; ratios to the empty Qt 6 window"
 grep '^# load' "$results" | sed 's/^# /(/; s/$/)/'
 
-printf '%-12s %5s %12s %14s %8s %10s %8s\n' program runs "start-up ms" "(min-max)" ratio "RSS MiB" ratio
+# The round ratio: in each round, the program's time over the empty window's in
+# the same round; its median. Noise that slows a whole round cancels out of it.
+round_ratio() {
+  awk -v name="$1" '!/^#/ && $2 == "empty_qt" { base[$1] = $3 }
+    !/^#/ && $2 == name { ms[$1] = $3 }
+    END { for (r in ms) if ((r in base) && base[r] > 0) print ms[r] / base[r] }' "$results" | median
+}
+
+printf '%-12s %4s %11s %14s %7s %7s %9s %7s\n' program runs "start-up ms" "(min-max)" ratio \
+  "round" "RSS MiB" ratio
 for name in $names; do
   runs=$(column "$name" 3 | wc -l)
   ms=$(column "$name" 3 | median)
   low=$(column "$name" 3 | sort -n | head -n 1)
   high=$(column "$name" 3 | sort -n | tail -n 1)
   rss=$(column "$name" 5 | median)
+  paired=$(round_ratio "$name")
   awk -v name="$name" -v runs="$runs" -v ms="$ms" -v low="${low:-nan}" -v high="${high:-nan}" \
-      -v rss="$rss" -v base_ms="$base_ms" -v base_rss="$base_rss" 'BEGIN {
-    if (runs == 0) { printf "%-12s %5d   (every run failed)\n", name, runs; exit }
+      -v rss="$rss" -v base_ms="$base_ms" -v base_rss="$base_rss" -v paired="$paired" 'BEGIN {
+    if (runs == 0) { printf "%-12s %4d   (every run failed)\n", name, runs; exit }
     if (base_ms + 0 > 0 && base_rss + 0 > 0) {
-      printf "%-12s %5d %12.1f %6.1f-%-7.1f %7.2fx %10.1f %7.2fx\n", name, runs, ms, low, high,
-             ms / base_ms, rss / 1024, rss / base_rss
+      printf "%-12s %4d %11.1f %6.1f-%-7.1f %6.2fx %6.2fx %9.1f %6.2fx\n", name, runs, ms, low, high,
+             ms / base_ms, paired, rss / 1024, rss / base_rss
     } else {
-      printf "%-12s %5d %12.1f %6.1f-%-7.1f %8s %10.1f %8s\n", name, runs, ms, low, high,
-             "-", rss / 1024, "-"
+      printf "%-12s %4d %11.1f %6.1f-%-7.1f %7s %7s %9.1f %7s\n", name, runs, ms, low, high,
+             "-", "-", rss / 1024, "-"
     }
   }'
 done
-echo "(RSS is that of the process and its descendants, read 2 s after the window was mapped.)"
+echo "(ratio: of the medians; round: median of the ratios within each round. RSS is that"
+echo " of the process and its descendants, read 2 s after the window was mapped.)"
 echo "Raw runs: $results; what the programs printed: $programs_log"

@@ -70,7 +70,8 @@ start_xvfb
 
 # The events of one strace log as "kind key ms" lines: "mark NAME ms" for the
 # landmarks, "open PATH ms" for the first opening of each file, socket or program
-# (failed lookups left out), the scratch HOME written as ~.
+# (failed lookups left out; the exec of the program itself too), the scratch
+# HOME written as ~.
 events() {
   awk -v map="$2" '
     function mark(what) {
@@ -90,7 +91,7 @@ events() {
     /\/etc\/fonts\/fonts\.conf"/ { mark("font_configuration_read") }
     /\.(ttf|otf|ttc|pfb|pcf|pcf\.gz)"/ { mark("first_font_file") }
     / = -1 E[A-Z]+ / { next }
-    /execve\(|openat\(|connect\(/ {
+    NR > 1 && /execve\(|openat\(|connect\(/ {
       if (!match($0, /"[^"]*"/)) next
       path = substr($0, RSTART + 1, RLENGTH - 2)
       sub(/^.*\/home\.[A-Za-z0-9]+/, "~", path)
@@ -146,12 +147,13 @@ awk -v name="$name" -v runs="$runs" '
   END {
     printf "\nLandmarks, ms after exec (median of %d runs under strace)\n", runs
     printf "%-28s %14s %14s\n", "", "empty_qt", name
-    # The landmarks in the order they came, the count of shared objects first.
+    # The landmarks in the order the program reached them, the count of shared
+    # objects first.
     for (i = 1; i <= nmarks; i++) {
       k = marks[i]
       if (k == "shared_objects_opened") order[k] = -1
-      else if (("empty_qt", "mark" SUBSEP k) in values) order[k] = median(values["empty_qt", "mark" SUBSEP k])
-      else order[k] = median(values[name, "mark" SUBSEP k])
+      else if ((name, "mark" SUBSEP k) in values) order[k] = median(values[name, "mark" SUBSEP k])
+      else order[k] = median(values["empty_qt", "mark" SUBSEP k])
     }
     for (i = 2; i <= nmarks; i++) {
       x = marks[i]
