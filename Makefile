@@ -7,7 +7,8 @@
 PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenchmark-dev clang \
             libclang-rt-14-dev \
             nlohmann-json3-dev locales \
-            qt6-base-dev fonts-liberation2 xvfb xauth xdotool imagemagick
+            qt6-base-dev qt6-multimedia-dev libspeechd-dev speech-dispatcher poppler-utils \
+            fonts-liberation2 xvfb xauth xdotool imagemagick
 
 SAN ?= 0
 WERROR ?= 0

@@ -5,6 +5,10 @@
 #include <QClipboard>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QFileDialog>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMessageBox>
@@ -16,6 +20,9 @@
 #include <QWindow>
 
 #include "runtime/timer.hpp"
+#include "sound_player.hpp"
+#include "speech_queue.hpp"
+#include "tape_printer.hpp"
 
 namespace tessarine::desktop {
 
@@ -136,6 +143,46 @@ void QtPlatform::SetText(const std::string& text) {
 }
 
 void QtPlatform::Beep() { QApplication::beep(); }
+
+void QtPlatform::Speak(const std::string& text) {
+  if (!speech_) speech_ = std::make_unique<SpeechQueue>();
+  speech_->Speak(text);
+}
+
+void QtPlatform::PlaySound(const std::string& name) {
+  if (!sounds_)
+    sounds_ = std::make_unique<SoundPlayer>(
+        SoundPlayer::FolderBeside(QCoreApplication::applicationFilePath()));
+  sounds_->Play(name);
+}
+
+std::optional<std::string> QtPlatform::AskSaveFile() {
+  QFileDialog dialog(host_ ? host_->DialogParent() : nullptr, QStringLiteral("Save Tape"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setNameFilter(QStringLiteral("Text files (*.txt)"));
+  dialog.setDefaultSuffix(QStringLiteral("txt"));
+  if (RunModal(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    return std::nullopt;
+  return dialog.selectedFiles().first().toStdString();
+}
+
+std::optional<std::string> QtPlatform::PageSetupDialog(const std::string& current) {
+  QPrinter printer;
+  ApplyPageSetup(current, printer);
+  QPageSetupDialog dialog(&printer, host_ ? host_->DialogParent() : nullptr);
+  if (RunModal(dialog) != QDialog::Accepted) return std::nullopt;
+  return PageSetupText(printer);
+}
+
+bool QtPlatform::PrintText(const PrintJob& job) {
+  QPrinter printer;
+  ApplyPageSetup(job.page_setup, printer);
+  QPrintDialog dialog(&printer, host_ ? host_->DialogParent() : nullptr);
+  dialog.setWindowTitle(QStringLiteral("Print Tape"));
+  if (RunModal(dialog) != QDialog::Accepted) return false;
+  PrintTapeText(job, printer);
+  return true;
+}
 
 // --- Desktop ----------------------------------------------------------------
 

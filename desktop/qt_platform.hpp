@@ -19,6 +19,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,11 @@ class QDialog;
 class QEvent;
 class QKeyEvent;
 class QTimer;
+
+namespace tessarine::desktop {
+class SoundPlayer;
+class SpeechQueue;
+}  // namespace tessarine::desktop
 class QWidget;
 
 namespace tessarine::desktop {
@@ -105,9 +111,10 @@ class QtPlatform final : public QObject,
   // Clipboard
   std::optional<std::string> Text() const override;
   void SetText(const std::string& text) override;
-  // Feedback: speech and sounds are built elsewhere; until then they are silent.
-  void Speak(const std::string&) override {}
-  void PlaySound(const std::string&) override {}
+  // Feedback: speech through speech-dispatcher, sounds through Qt Multimedia; both
+  // made at their first use, not at start.
+  void Speak(const std::string& text) override;
+  void PlaySound(const std::string& name) override;
   void Beep() override;
   // Desktop
   void MsgBox(const std::string& text) override;
@@ -121,6 +128,9 @@ class QtPlatform final : public QObject,
   int ScreenWidth() const override;
   int ScreenHeight() const override;
   void ClearFocus() override;
+  std::optional<std::string> AskSaveFile() override;
+  std::optional<std::string> PageSetupDialog(const std::string& current) override;
+  bool PrintText(const PrintJob& job) override;
 
   // The keys the keyboard state follows, as bits.
   enum HeldKey : unsigned { kCtrl = 1, kAlt = 2, kShift = 4, kMeta = 8, kPeriod = 16 };
@@ -130,6 +140,8 @@ class QtPlatform final : public QObject,
   // Runs a modal dialog: input reaches it even inside a yield.
   int RunModal(QDialog& dialog);
 
+  std::unique_ptr<SpeechQueue> speech_;
+  std::unique_ptr<SoundPlayer> sounds_;
   PosixFileSystem files_;
   Platform platform_;
   WindowHost* host_ = nullptr;

@@ -4,15 +4,14 @@
 // not at start; without a speech service the program goes on silently.
 #pragma once
 
+#include <memory>
 #include <string>
-
-struct _SPDConnection;
 
 namespace tessarine::desktop {
 
 class SpeechQueue {
  public:
-  SpeechQueue() = default;
+  SpeechQueue();
   SpeechQueue(const SpeechQueue&) = delete;
   SpeechQueue& operator=(const SpeechQueue&) = delete;
   ~SpeechQueue();
@@ -20,7 +19,8 @@ class SpeechQueue {
   void Speak(const std::string& text);
 
  private:
-  _SPDConnection* connection_ = nullptr;
+  struct Connection;  // speech-dispatcher's, kept out of this header
+  std::unique_ptr<Connection> connection_;
   bool tried_ = false;  // one attempt to connect per run: a missing service stays missing
 };
 

@@ -2,9 +2,7 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
-#include <QPageSetupDialog>
 #include <QPainter>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QStringList>
 
@@ -13,16 +11,15 @@ namespace tessarine::desktop {
 int PrintTapeText(const Desktop::PrintJob& job, QPrinter& printer) {
   QPainter painter;
   if (!painter.begin(&printer)) return 0;
-  // The job's geometry is in points; the painter draws in device pixels.
+  // The job's geometry is in points; the painter draws in device pixels, and the
+  // font's point size already follows the printer's resolution.
   const double scale = printer.resolution() / 72.0;
-  painter.scale(scale, scale);
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   font.setPointSizeF(10);
   painter.setFont(font);
-  const QFontMetricsF metrics(font, &printer);
-  const double line_height = metrics.lineSpacing() / scale;
-  const int lines_per_page =
-      std::max(1, static_cast<int>(job.block_height / std::max(line_height, 1.0)));
+  const double line_height = QFontMetricsF(font, &printer).lineSpacing();
+  const double block_height = job.block_height * scale;
+  const int lines_per_page = std::max(1, static_cast<int>(block_height / line_height));
 
   // The tape's lines end in a carriage return.
   QString text = QString::fromStdString(job.text);
@@ -38,7 +35,8 @@ int PrintTapeText(const Desktop::PrintJob& job, QPrinter& printer) {
       ++pages;
       on_page = 0;
     }
-    const QRectF block(job.left, job.top + on_page * line_height, job.block_width, line_height);
+    const QRectF block(job.left * scale, job.top * scale + on_page * line_height,
+                       job.block_width * scale, line_height);
     painter.drawText(block, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, line);
     ++on_page;
   }
@@ -64,24 +62,6 @@ std::string PageSetupText(const QPrinter& printer) {
       .arg(static_cast<int>(layout.pageSize().id()))
       .arg(layout.orientation() == QPageLayout::Landscape ? "landscape" : "portrait")
       .toStdString();
-}
-
-std::optional<std::string> RunPageSetupDialog(const std::string& current, QWidget* parent) {
-  QPrinter printer;
-  ApplyPageSetup(current, printer);
-  QPageSetupDialog dialog(&printer, parent);
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  return PageSetupText(printer);
-}
-
-bool RunPrintDialog(const Desktop::PrintJob& job, QWidget* parent) {
-  QPrinter printer;
-  ApplyPageSetup(job.page_setup, printer);
-  QPrintDialog dialog(&printer, parent);
-  dialog.setWindowTitle("Print Tape");
-  if (dialog.exec() != QDialog::Accepted) return false;
-  PrintTapeText(job, printer);
-  return true;
 }
 
 }  // namespace tessarine::desktop

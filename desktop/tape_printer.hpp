@@ -21,8 +21,4 @@ int PrintTapeText(const Desktop::PrintJob& job, QPrinter& printer);
 void ApplyPageSetup(const std::string& setup, QPrinter& printer);
 std::string PageSetupText(const QPrinter& printer);
 
-// The dialogs: page setup, then print (to a printer or to a PDF file).
-std::optional<std::string> RunPageSetupDialog(const std::string& current, QWidget* parent);
-bool RunPrintDialog(const Desktop::PrintJob& job, QWidget* parent);
-
 }  // namespace tessarine::desktop

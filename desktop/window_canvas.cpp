@@ -1,5 +1,7 @@
 #include "window_canvas.hpp"
 
+#include "file_drop.hpp"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -297,6 +299,7 @@ QWidget* WindowCanvas::Make(Control& control) {
   }
   widget->setObjectName(Q(control.FullName()));
   widget->installEventFilter(new MouseForwarder(control, widget));
+  if (control.events.DropObject) AcceptFileDrops(*widget, control);
   return widget;
 }
 

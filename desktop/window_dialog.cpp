@@ -32,7 +32,15 @@ WindowDialog::WindowDialog(Window& window, QWidget* sheet_parent)
 
 void WindowDialog::ApplyBounds() {
   applying_ = true;
-  setFixedSize(window_.Width(), window_.Height());
+  if (window_.MinimumHeight() >= 0) {
+    // The width stays; the user may change the height from the window's minimum up.
+    setFixedWidth(window_.Width());
+    setMinimumHeight(window_.MinimumHeight());
+    setMaximumHeight(QWIDGETSIZE_MAX);
+    resize(window_.Width(), window_.Height());
+  } else {
+    setFixedSize(window_.Width(), window_.Height());
+  }
   binding_->SetViewport(QRect(0, 0, window_.Width(), window_.Height()));
   if (!sheet_) move(window_.Left(), window_.Top());
   applying_ = false;
@@ -66,7 +74,14 @@ void WindowDialog::moveEvent(QMoveEvent* event) {
   if (sheet_ || applying_ || !isVisible()) return;
   const QPoint place = geometry().topLeft();
   if (place.x() != window_.Left() || place.y() != window_.Top())
-    window_.SetBounds(place.x(), place.y(), window_.Width(), window_.Height());
+    window_.Dispatch("Event_Moved", [&] { window_.UserMoved(place.x(), place.y()); });
+}
+
+void WindowDialog::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  if (sheet_ || applying_ || !isVisible() || window_.MinimumHeight() < 0) return;
+  if (height() != window_.Height())
+    window_.Dispatch("Event_Resized", [&] { window_.UserResized(width(), height()); });
 }
 
 }  // namespace tessarine::desktop

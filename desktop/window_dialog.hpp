@@ -38,6 +38,7 @@ class WindowDialog final : public QDialog {
   void reject() override;
   void closeEvent(QCloseEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   Window& window_;

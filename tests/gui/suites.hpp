@@ -8,5 +8,6 @@ int RunModesTests(int argc, char** argv);
 int RunMenusTests(int argc, char** argv);
 int RunLoopsTests(int argc, char** argv);
 int RunViewTests(int argc, char** argv);
+int RunPrintingTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing
