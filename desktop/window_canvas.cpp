@@ -1,5 +1,7 @@
 #include "window_canvas.hpp"
 
+#include <QCursor>
+
 #include "file_drop.hpp"
 
 #include <QApplication>
@@ -76,6 +78,7 @@ class MouseForwarder final : public QObject {
     switch (event->type()) {
       case QEvent::MouseButtonPress: {
         const QPoint p = static_cast<QMouseEvent*>(event)->position().toPoint();
+        Track(p);
         if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
           control_.UserMouseDown(p.x(), p.y());
         break;
@@ -88,6 +91,7 @@ class MouseForwarder final : public QObject {
       }
       case QEvent::MouseMove: {
         const QPoint p = static_cast<QMouseEvent*>(event)->position().toPoint();
+        Track(p);
         control_.UserMouseMove(p.x(), p.y());
         break;
       }
@@ -101,6 +105,12 @@ class MouseForwarder final : public QObject {
   }
 
  private:
+  // The window's pointer position, which the logic reads (the memory list opens
+  // at the pointer).
+  void Track(const QPoint& p) {
+    control_.Owner().SetMousePosition(control_.Left() + p.x(), control_.Top() + p.y());
+  }
+
   Control& control_;
 };
 
@@ -238,6 +248,14 @@ QWidget* WindowCanvas::Make(Control& control) {
       connect(list, &QListWidget::currentRowChanged, this, [this, c](int row) {
         if (!applying_) c->UserSetListIndex(row);
       });
+      // A press on a row is a click on that cell; the pointer over the rows is
+      // followed, as the list's own logic highlights by position.
+      connect(list, &QAbstractItemView::pressed, this, [c, list](const QModelIndex& index) {
+        const QPoint p = list->viewport()->mapFromGlobal(QCursor::pos());
+        c->UserCellClick(index.row(), 0, p.x(), p.y());
+      });
+      list->viewport()->setMouseTracking(true);
+      list->viewport()->installEventFilter(new MouseForwarder(control, list->viewport()));
       widget = list;
       break;
     }

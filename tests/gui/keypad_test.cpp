@@ -2,6 +2,7 @@
 // the keys, the flash of a typed key, and the error state's locked keys.
 #include <QAbstractButton>
 #include <QLabel>
+#include <QListWidget>
 #include <QTest>
 #include <QTimer>
 
@@ -96,6 +97,29 @@ class KeypadTest : public QObject {
     QCOMPARE(f_->DisplayText(), QStringLiteral("-42."));
     f_->Click("ButtonClear");
     QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
+  }
+
+  void memoryListOpensAtThePointerAndTakesARow() {
+    // The memory keys show below the keypad in advanced mode.
+    f_->Click("ShowAdvancedFeaturesButton");
+    f_->WaitForResize();
+    f_->Click("Button5");
+    f_->Click("StoragePlusButton");  // in the middle of the key
+    QWidget* key = f_->Widget("StoragePlusButton");
+    QWidget* list = f_->Widget("StorageMenu");
+    QVERIFY(key && list && list->isVisible());
+    // The pointer stands over the list's last row: 15 in from its left, 105 down.
+    const QPoint pointer = key->geometry().topLeft() + key->rect().center();
+    QCOMPARE(list->geometry().topLeft(), pointer - QPoint(15, 105));
+    // The last row (bank 10, "M:") under the pointer, then a click on it.
+    auto* rows = qobject_cast<QListWidget*>(list);
+    QVERIFY(rows);
+    const QRect last = rows->visualItemRect(rows->item(9));
+    QTest::mouseMove(rows->viewport(), last.center());
+    QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, last.center());
+    QTRY_VERIFY(!list->isVisible());
+    QCOMPARE(f_->Calc().StorageValue(10), 5.0);
+    QVERIFY(f_->Calc().Item("MemoryLabel", 10).Visible());
   }
 
   void typedKeyFlashesDown() {
