@@ -95,10 +95,12 @@ void Driver::AddControlCommands() {
     }
   });
   AddCommand("get", [this](const std::vector<Word>& args, std::ostream& out) {
-    ExpectArgs(args, 1, 1, "get CONTROL.Property");
-    std::string name, property;
-    SplitProperty(args[0].text, name, property);
-    out << GetProperty(Resolve(*program_, name), property) << '\n';
+    if (args.empty()) throw ScriptError("usage: get CONTROL.Property...");
+    for (const Word& path : args) {  // one line each
+      std::string name, property;
+      SplitProperty(path.text, name, property);
+      out << GetProperty(Resolve(*program_, name), property) << '\n';
+    }
   });
   AddCommand("set", [this](const std::vector<Word>& args, std::ostream&) {
     ExpectArgs(args, 2, 2, "set CONTROL.Property VALUE");
@@ -113,16 +115,18 @@ void Driver::AddControlCommands() {
     out << DumpControl(*target.control) << '\n';
   });
   AddCommand("field", [this](const std::vector<Word>& args, std::ostream& out) {
-    ExpectArgs(args, 1, 1, "field NAME");
-    std::string name = args[0].text;
-    if (const auto dot = name.find('.'); dot != std::string::npos) {
-      FindWindow(*program_, name.substr(0, dot));
-      name = name.substr(dot + 1);
+    if (args.empty()) throw ScriptError("usage: field NAME...");
+    for (const Word& word : args) {  // one line each
+      std::string name = word.text;
+      if (const auto dot = name.find('.'); dot != std::string::npos) {
+        FindWindow(*program_, name.substr(0, dot));
+        name = name.substr(dot + 1);
+      }
+      auto& window = static_cast<CalcWindow&>(FindWindow(*program_, "CalcWindow"));
+      const auto value = window.FieldByName(name);
+      if (!value) throw ScriptError("unknown field " + word.text);
+      out << FieldText(*value) << '\n';
     }
-    auto& window = static_cast<CalcWindow&>(FindWindow(*program_, "CalcWindow"));
-    const auto value = window.FieldByName(name);
-    if (!value) throw ScriptError("unknown field " + args[0].text);
-    out << FieldText(*value) << '\n';
   });
 }
 
