@@ -1,6 +1,6 @@
-// The keypad's logic where a driver script can't reach it yet: the pending
-// two-operand functions that the function keys arm, the display masks as the
-// preferences rebuild them, and the display helpers.
+// The keypad's logic where a driver script can't reach it: percent over a pending
+// function, the display masks as the preferences rebuild them, and the display
+// helpers nothing in the program calls.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -50,42 +50,6 @@ class KeypadTest : public ::testing::Test {
   HeadlessPlatform headless;
   Program program{headless.platform(), 1};
 };
-
-struct FunctionCase {
-  const char* name;
-  const char* before;  // keys before the function
-  const char* function;
-  const char* after;  // keys after it
-  double expected;
-};
-
-TEST_F(KeypadTest, PendingFunctionsBindTighterThanTheOperator) {
-  const FunctionCase cases[] = {
-      {"power after plus", "2+3", "Power", "2=", 11},
-      {"nth root", "27", "NthRoot", "3=", 3.0000000000000004},  // Pow(27, 1/3)
-      {"log base n, the second operand is the base", "8", "LogBasen", "2=", 3},
-      {"delta percent", "150", "DeltaPercent", "100=", 50},
-      {"power then times", "10x2", "Power", "3x", 80},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
-    Keys("C");
-    Keys(c.before);
-    Arm(c.function);
-    Keys(c.after);
-    EXPECT_DOUBLE_EQ(W().Result, c.expected);
-    EXPECT_EQ(W().Calculation2, "");
-  }
-}
-
-TEST_F(KeypadTest, AFunctionWithoutItsSecondOperandRunsNothing) {
-  Keys("5");
-  Arm("Power");
-  Keys("=");
-  EXPECT_EQ(W().Result, 5);
-  EXPECT_EQ(W().Calculation2, "");
-  EXPECT_EQ(W().Stored2, 5);  // left as it was
-}
 
 TEST_F(KeypadTest, PercentOverwritesAPendingFunction) {
   Keys("200+");
