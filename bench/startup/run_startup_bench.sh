@@ -92,7 +92,7 @@ measure() {
     rm -rf "$work"
   }
   trap cleanup EXIT
-  trap 'exit 130' INT TERM
+  trap 'exit 130' HUP INT PIPE TERM
 
   start_xvfb
 

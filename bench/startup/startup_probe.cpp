@@ -143,6 +143,15 @@ void EndProcessGroup(pid_t pid) {
   waitpid(pid, &status, 0);
 }
 
+// The program's process group, for the signal handler: a probe that is interrupted
+// takes the program with it.
+volatile sig_atomic_t running_group = 0;
+
+extern "C" void OnSignal(int signal_number) {
+  if (running_group > 0) kill(-static_cast<pid_t>(running_group), SIGKILL);
+  _exit(128 + signal_number);
+}
+
 int Fail(const char* what, pid_t child) {
   std::printf("error=%s\n", what);
   std::fflush(stdout);
@@ -189,6 +198,11 @@ int main(int argc, char** argv) {
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_adddup2(&actions, STDERR_FILENO, STDOUT_FILENO);
 
+  struct sigaction on_signal {};
+  on_signal.sa_handler = OnSignal;
+  sigemptyset(&on_signal.sa_mask);
+  for (const int signal_number : {SIGHUP, SIGINT, SIGTERM}) sigaction(signal_number, &on_signal, nullptr);
+
   const auto start = Clock::now();
   pid_t child = 0;
   const int spawned =
@@ -200,6 +214,7 @@ int main(int argc, char** argv) {
                  std::strerror(spawned));
     return Fail("cannot-start", 0);
   }
+  running_group = child;
 
   const auto deadline = start + std::chrono::milliseconds(options.timeout_ms);
   xcb_window_t window = XCB_NONE;

@@ -65,7 +65,7 @@ cleanup() {
   fi
 }
 trap cleanup EXIT
-trap 'exit 130' INT TERM
+trap 'exit 130' HUP INT PIPE TERM
 start_xvfb
 
 # The events of one strace log as "kind key ms" lines: "mark NAME ms" for the
