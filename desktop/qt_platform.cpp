@@ -10,6 +10,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QKeyEvent>
+#include <QLibrary>
 #include <QLocale>
 #include <QMessageBox>
 #include <QMimeData>
@@ -20,8 +21,7 @@
 #include <QWindow>
 
 #include "runtime/timer.hpp"
-#include "sound_player.hpp"
-#include "speech_queue.hpp"
+#include "feedback_module.hpp"
 #include "tape_printer.hpp"
 
 namespace tessarine::desktop {
@@ -144,16 +144,26 @@ void QtPlatform::SetText(const std::string& text) {
 
 void QtPlatform::Beep() { QApplication::beep(); }
 
+FeedbackModule* QtPlatform::Feedback() {
+  if (!feedback_tried_) {
+    feedback_tried_ = true;
+    // Beside the program; the sounds in resources/sounds beside its folder.
+    const QString folder = QCoreApplication::applicationDirPath();
+    QLibrary module(folder + QStringLiteral("/libtessarine_feedback.so"));
+    const auto create =
+        reinterpret_cast<CreateFeedbackModuleFunction>(module.resolve(kCreateFeedbackModule));
+    const QByteArray sounds = (folder + QStringLiteral("/../resources/sounds")).toUtf8();
+    if (create) feedback_.reset(create(sounds.constData()));  // the library stays loaded
+  }
+  return feedback_.get();  // nullptr: no module, and the program goes on silently
+}
+
 void QtPlatform::Speak(const std::string& text) {
-  if (!speech_) speech_ = std::make_unique<SpeechQueue>();
-  speech_->Speak(text);
+  if (FeedbackModule* feedback = Feedback()) feedback->Speak(text);
 }
 
 void QtPlatform::PlaySound(const std::string& name) {
-  if (!sounds_)
-    sounds_ = std::make_unique<SoundPlayer>(
-        SoundPlayer::FolderBeside(QCoreApplication::applicationFilePath()));
-  sounds_->Play(name);
+  if (FeedbackModule* feedback = Feedback()) feedback->PlaySound(name);
 }
 
 std::optional<std::string> QtPlatform::AskSaveFile() {

@@ -32,8 +32,7 @@ class QKeyEvent;
 class QTimer;
 
 namespace tessarine::desktop {
-class SoundPlayer;
-class SpeechQueue;
+class FeedbackModule;
 }  // namespace tessarine::desktop
 class QWidget;
 
@@ -111,8 +110,7 @@ class QtPlatform final : public QObject,
   // Clipboard
   std::optional<std::string> Text() const override;
   void SetText(const std::string& text) override;
-  // Feedback: speech through speech-dispatcher, sounds through Qt Multimedia; both
-  // made at their first use, not at start.
+  // Feedback: speech and sounds, from the feedback module loaded at their first use.
   void Speak(const std::string& text) override;
   void PlaySound(const std::string& name) override;
   void Beep() override;
@@ -140,8 +138,9 @@ class QtPlatform final : public QObject,
   // Runs a modal dialog: input reaches it even inside a yield.
   int RunModal(QDialog& dialog);
 
-  std::unique_ptr<SpeechQueue> speech_;
-  std::unique_ptr<SoundPlayer> sounds_;
+  FeedbackModule* Feedback();
+  std::unique_ptr<FeedbackModule> feedback_;
+  bool feedback_tried_ = false;  // one attempt: a module that is missing stays missing
   PosixFileSystem files_;
   Platform platform_;
   WindowHost* host_ = nullptr;

@@ -11,10 +11,6 @@ SoundPlayer::SoundPlayer(QString folder) : folder_(std::move(folder)) {}
 
 SoundPlayer::~SoundPlayer() = default;
 
-QString SoundPlayer::FolderBeside(const QString& program_path) {
-  return QFileInfo(program_path).absoluteDir().filePath("../resources/sounds");
-}
-
 void SoundPlayer::Play(const std::string& name) {
   auto& effect = effects_[name];
   if (!effect) {

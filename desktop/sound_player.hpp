@@ -14,13 +14,11 @@ namespace tessarine::desktop {
 
 class SoundPlayer {
  public:
-  // The folder of the sound files: resources/sounds beside the program's folder.
+  // The folder of the sound files.
   explicit SoundPlayer(QString folder);
   ~SoundPlayer();
 
   void Play(const std::string& name);
-  // Where the sounds of a program at this path live.
-  static QString FolderBeside(const QString& program_path);
 
  private:
   QString folder_;

@@ -9,5 +9,6 @@ int RunMenusTests(int argc, char** argv);
 int RunLoopsTests(int argc, char** argv);
 int RunViewTests(int argc, char** argv);
 int RunPrintingTests(int argc, char** argv);
+int RunFeedbackTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing
