@@ -31,9 +31,9 @@ SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
 all: build
 
-# Installs only what is missing, so that a second run is quick and quiet.
-deps:
-	@missing=$$(for p in $(PACKAGES); do \
+# Installs the Debian packages of a list that are not installed yet.
+define install_missing
+	@missing=$$(for p in $(1); do \
 	    dpkg-query -W -f='$${Status}\n' $$p 2>/dev/null | grep -q '^install ok installed' || echo $$p; \
 	  done); \
 	if [ -n "$$missing" ]; then \
@@ -41,6 +41,11 @@ deps:
 	  $(SUDO) apt-get update -qq && \
 	  DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq $$missing; \
 	fi
+endef
+
+# Installs only what is missing, so that a second run is quick and quiet.
+deps:
+	$(call install_missing,$(PACKAGES))
 	@# A locale with a decimal comma, so the number primitives are tested against one.
 	@locale -a 2>/dev/null | grep -qix 'de_DE.utf8' || $(SUDO) localedef -i de_DE -f UTF-8 de_DE.UTF-8
 
@@ -72,14 +77,7 @@ run: build
 BENCH_PACKAGES := xvfb xauth libxcb1-dev qt6-base-dev speedcrunch galculator
 STARTUP_ROUNDS ?= 15
 bench: deps
-	@missing=$$(for p in $(BENCH_PACKAGES); do \
-	    dpkg-query -W -f='$${Status}\n' $$p 2>/dev/null | grep -q '^install ok installed' || echo $$p; \
-	  done); \
-	if [ -n "$$missing" ]; then \
-	  echo "Installing:" $$missing; \
-	  $(SUDO) apt-get update -qq && \
-	  DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq $$missing; \
-	fi
+	$(call install_missing,$(BENCH_PACKAGES))
 	@cmake -S . -B build-release -G Ninja -DCMAKE_BUILD_TYPE=Release -DTESSARINE_TESTS=OFF \
 	  -DTESSARINE_BENCH=ON > build-release.configure.log 2>&1 || { cat build-release.configure.log; exit 1; }
 	@startup_args=; \

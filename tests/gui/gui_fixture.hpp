@@ -7,6 +7,9 @@
 // (TakeDialogs), and the fixture fails the test for any it did not.
 #pragma once
 
+#include <QObject>
+#include <QTest>
+
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -58,6 +61,23 @@ class GuiFixture {
   std::unique_ptr<DesktopApp> app_;
   QTimer watchdog_;
   QStringList dialogs_;
+};
+
+// The frame of every suite on the main window: a fresh calculator before each
+// test function and, after it, no message box left unclaimed.
+class GuiSuite : public QObject {
+  Q_OBJECT
+
+ protected:
+  std::unique_ptr<GuiFixture> f_;
+
+ private slots:
+  void init() { f_ = std::make_unique<GuiFixture>(); }
+  void cleanup() {
+    const QStringList left = f_->TakeDialogs();
+    f_.reset();
+    QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral("; "))));
+  }
 };
 
 }  // namespace tessarine::desktop::testing

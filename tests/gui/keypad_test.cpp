@@ -14,17 +14,10 @@
 
 namespace tessarine::desktop::testing {
 
-class KeypadTest : public QObject {
+class KeypadTest : public GuiSuite {
   Q_OBJECT
 
  private slots:
-  void init() { f_ = std::make_unique<GuiFixture>(); }
-  void cleanup() {
-    const QStringList left = f_->TakeDialogs();
-    f_.reset();
-    QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral("; "))));
-  }
-
   void typedKeysReachTheDisplay() {
     f_->Type(QStringLiteral("2+3"));
     QCOMPARE(f_->DisplayText(), QStringLiteral("3"));
@@ -173,8 +166,6 @@ class KeypadTest : public QObject {
     QCOMPARE(check_locked(false), QString());
   }
 
- private:
-  std::unique_ptr<GuiFixture> f_;
 };
 
 int RunKeypadTests(int argc, char** argv) {

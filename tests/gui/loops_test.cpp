@@ -33,17 +33,10 @@ long RunLoop(Platform& platform, int ms, int round_us) {
 
 }  // namespace
 
-class LoopsTest : public QObject {
+class LoopsTest : public GuiSuite {
   Q_OBJECT
 
  private slots:
-  void init() { f_ = std::make_unique<GuiFixture>(); }
-  void cleanup() {
-    const QStringList left = f_->TakeDialogs();
-    f_.reset();
-    QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral("; "))));
-  }
-
   void yieldsPumpOftenAndCheaply() {
     int ticks = 0;
     QTimer timer;
@@ -107,8 +100,6 @@ class LoopsTest : public QObject {
     QCOMPARE(f_->DisplayText(), QStringLiteral(".5"));
   }
 
- private:
-  std::unique_ptr<GuiFixture> f_;
 };
 
 int RunLoopsTests(int argc, char** argv) {

@@ -17,17 +17,10 @@
 
 namespace tessarine::desktop::testing {
 
-class MenusTest : public QObject {
+class MenusTest : public GuiSuite {
   Q_OBJECT
 
  private slots:
-  void init() { f_ = std::make_unique<GuiFixture>(); }
-  void cleanup() {
-    const QStringList left = f_->TakeDialogs();
-    f_.reset();
-    QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral("; "))));
-  }
-
   void barMirrorsTheModel() {
     QMenuBar* bar = f_->View().menuBar();
     QStringList titles;
@@ -157,8 +150,6 @@ class MenusTest : public QObject {
     QTRY_VERIFY(menu->isVisible());
     menu->close();
   }
-
-  std::unique_ptr<GuiFixture> f_;
 };
 
 int RunMenusTests(int argc, char** argv) {

@@ -14,17 +14,10 @@
 
 namespace tessarine::desktop::testing {
 
-class ModesTest : public QObject {
+class ModesTest : public GuiSuite {
   Q_OBJECT
 
  private slots:
-  void init() { f_ = std::make_unique<GuiFixture>(); }
-  void cleanup() {
-    const QStringList left = f_->TakeDialogs();
-    f_.reset();
-    QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral("; "))));
-  }
-
   void startsSimpleWithOnlyTheKeypadBuilt() {
     MainWindowView& view = f_->View();
     const int menu = view.menuBar()->height();
@@ -139,8 +132,6 @@ class ModesTest : public QObject {
     QCOMPARE(view.geometry().bottomLeft(), before.bottomLeft());
   }
 
- private:
-  std::unique_ptr<GuiFixture> f_;
 };
 
 int RunModesTests(int argc, char** argv) {

@@ -41,17 +41,10 @@ std::pair<int, int> InkRows(const std::vector<CaptionRun>& runs) {
 
 }  // namespace
 
-class ViewTest : public QObject {
+class ViewTest : public GuiSuite {
   Q_OBJECT
 
  private slots:
-  void init() { f_ = std::make_unique<GuiFixture>(); }
-  void cleanup() {
-    const QStringList left = f_->TakeDialogs();
-    f_.reset();
-    QVERIFY2(left.isEmpty(), qPrintable(left.join(QStringLiteral("; "))));
-  }
-
   void everyShownControlHasItsWidget() {
     f_->Click("ShowAdvancedFeaturesButton");
     f_->WaitForResize();
@@ -170,8 +163,6 @@ class ViewTest : public QObject {
     QCOMPARE(f_->DisplayText(), QStringLiteral("8"));
   }
 
- private:
-  std::unique_ptr<GuiFixture> f_;
 };
 
 int RunViewTests(int argc, char** argv) {
