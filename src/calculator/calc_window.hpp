@@ -219,6 +219,7 @@ class CalcWindow final : public Window {
   void RunOneOperandKey(const char* tape, double (*function)(double), KeyFlag flag,
                         const char* speech);
   void ArmTwoOperandFunction(const char* tape, const char* function, const char* speech);
+  void ArmCombinatorics(const char* tape, const char* function, const char* speech);
   bool InRadians();
   void TrigEndingSineTangent();
   void TrigEndingArc();

@@ -32,24 +32,24 @@ void CalcWindow::ButtonFactorialAction() {
   SpeakButton("Factorial");
 }
 
-void CalcWindow::CombinationsButtonAction() {
+// C(n,k) and P(n,k) arm themselves like the other two-operand keys, but with the
+// sound first: n, the key, k, then an operator or equals.
+void CalcWindow::ArmCombinatorics(const char* tape, const char* function, const char* speech) {
   PlayCalculationSound();
-  WriteToTape("C(n,k)");
+  WriteToTape(tape);
   Stored2 = Result;
   ClearDisplay = true;
-  Calculation2 = "Cnk";
+  Calculation2 = function;
   UserIsTypingExponent = false;
-  SpeakButton("Combinations");
+  SpeakButton(speech);
+}
+
+void CalcWindow::CombinationsButtonAction() {
+  ArmCombinatorics("C(n,k)", "Cnk", "Combinations");
 }
 
 void CalcWindow::PermutationsButtonAction() {
-  PlayCalculationSound();
-  WriteToTape("P(n,k)");
-  Stored2 = Result;
-  ClearDisplay = true;
-  Calculation2 = "Pnk";
-  UserIsTypingExponent = false;
-  SpeakButton("Permutations");
+  ArmCombinatorics("P(n,k)", "Pnk", "Permutations");
 }
 
 namespace {
