@@ -22,6 +22,12 @@ QString PdfText(const QString& path) {
   return QString::fromUtf8(pdftotext.readAllStandardOutput());
 }
 
+// A printer that writes a PDF file.
+void ToPdf(QPrinter& printer, const QString& path) {
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(path);
+}
+
 Desktop::PrintJob Job(const std::string& text) {
   Desktop::PrintJob job;
   job.text = text;
@@ -47,8 +53,7 @@ class PrintingTest : public QObject {
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("tape.pdf"));
     QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(path);
+    ToPdf(printer, path);
     const std::string tape = "\r             2     +\r             3     =\r             5     \xE2\x97\x8A\r";
     QCOMPARE(PrintTapeText(Job(tape), printer), 1);
     const QString text = PdfText(path);
@@ -63,8 +68,7 @@ class PrintingTest : public QObject {
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("long.pdf"));
     QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(path);
+    ToPdf(printer, path);
     std::string tape;
     for (int i = 1; i <= 200; ++i) tape += "line " + std::to_string(i) + "\r";
     const int pages = PrintTapeText(Job(tape), printer);
