@@ -31,7 +31,7 @@ void ConfigureApplication(QApplication& app) {
 DesktopApp::DesktopApp(std::uint64_t random_seed, const std::string& preferences_folder)
     : platform_(preferences_folder), program_(platform_.platform(), random_seed) {
   platform_.SetWindowHost(this);
-  program_.ObserveWindows([this](Window& window) { OnWindowMade(window); });
+  program_.Windows().WindowMade.Connect([this](Window& window) { OnWindowMade(window); }).Release();
 }
 
 void DesktopApp::OnWindowMade(Window& window) {

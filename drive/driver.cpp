@@ -22,7 +22,7 @@ void ExpectArgs(const std::vector<Word>& args, std::size_t min, std::size_t max,
   if (args.size() < min || args.size() > max) throw ScriptError(std::string("usage: ") + usage);
 }
 
-std::string FieldText(const CalcWindow::FieldValue& value) {
+std::string FieldText(const FieldValue& value) {
   struct Visitor {
     std::string operator()(double x) const { return JsonNumber(x); }
     std::string operator()(const std::string& s) const { return JsonString(s); }
@@ -70,10 +70,13 @@ void Driver::Launch() {
 void Driver::Restart() { Launch(); }
 
 void Driver::RunLine(const std::string& line, std::ostream& out) {
+  // A comment is skipped before its words are read: it may hold anything.
+  const auto first = line.find_first_not_of(" \t");
+  if (first == std::string::npos || line[first] == '#') return;
   std::string error;
   auto words = SplitWords(line, error);
   if (!words) throw ScriptError(error);
-  if (words->empty() || (!(*words)[0].quoted && (*words)[0].text[0] == '#')) return;
+  if (words->empty()) return;
   if ((*words)[0].quoted) throw ScriptError("a line must start with a command");
   const auto command = commands_.find((*words)[0].text);
   if (command == commands_.end()) throw ScriptError("unknown command " + (*words)[0].text);
@@ -99,7 +102,7 @@ void Driver::AddControlCommands() {
     for (const Word& path : args) {  // one line each
       std::string name, property;
       SplitProperty(path.text, name, property);
-      out << GetProperty(Resolve(*program_, name), property) << '\n';
+      out << path.text << " = " << GetProperty(Resolve(*program_, name), property) << '\n';
     }
   });
   AddCommand("set", [this](const std::vector<Word>& args, std::ostream&) {
@@ -117,15 +120,14 @@ void Driver::AddControlCommands() {
   AddCommand("field", [this](const std::vector<Word>& args, std::ostream& out) {
     if (args.empty()) throw ScriptError("usage: field NAME...");
     for (const Word& word : args) {  // one line each
-      std::string name = word.text;
+      std::string window_name = "CalcWindow", name = word.text;
       if (const auto dot = name.find('.'); dot != std::string::npos) {
-        FindWindow(*program_, name.substr(0, dot));
+        window_name = name.substr(0, dot);
         name = name.substr(dot + 1);
       }
-      auto& window = static_cast<CalcWindow&>(FindWindow(*program_, "CalcWindow"));
-      const auto value = window.FieldByName(name);
+      const auto value = FindWindow(*program_, window_name).FieldByName(name);
       if (!value) throw ScriptError("unknown field " + word.text);
-      out << FieldText(*value) << '\n';
+      out << word.text << " = " << FieldText(*value) << '\n';
     }
   });
 }

@@ -2,7 +2,7 @@
 // with the tab pages beside it. Modes hide nothing; the simple window is only
 // too small to show the tabs.
 #include "calculator/calc_window.hpp"
-#include "shell/smooth_resize.hpp"
+#include "calculator/smooth_resize.hpp"
 
 namespace tessarine {
 
@@ -16,12 +16,12 @@ void CalcWindow::ButtonShowAdvancedFeaturesAction() {
 
 void CalcWindow::ToggleAdvancedFeatures() {
   if (ShowAdvancedFeatures) {
-    SmoothResize(*this, 535, 290, kAnchorBottomLeft);
+    SmoothResize(*this, 535, 290, Anchor::BottomLeft);
     ShowAdvancedFeaturesButton.SetCaption("LESS");
     ToggleTrigButtonsTimer.SetMode(Timer::kMultiple);
   } else {
     platform_.desktop.ClearFocus();  // a field behind the narrowed edge must not keep the keys
-    SmoothResize(*this, 171, globals_.ShowMemoryButtons ? 272 : 249, kAnchorBottomLeft);
+    SmoothResize(*this, 171, globals_.ShowMemoryButtons ? 272 : 249, Anchor::BottomLeft);
     ShowAdvancedFeaturesButton.SetCaption("MORE...");
     ToggleTrigButtonsTimer.SetMode(Timer::kOff);
   }

@@ -4,8 +4,7 @@
 #include <utility>
 
 #include "runtime/text.hpp"
-#include "shell/main_window_layout.hpp"
-#include "shell/program.hpp"
+#include "calculator/main_window_layout.hpp"
 
 namespace tessarine {
 
@@ -40,10 +39,10 @@ constexpr std::pair<std::string_view, int> kErrorStateControls[] = {
 
 }  // namespace
 
-CalcWindow::CalcWindow(Program& program)
-    : Window(program.GetPlatform(), "CalcWindow"),
-      program_(program),
-      globals_(program.Globals()),
+CalcWindow::CalcWindow(AppContext& app)
+    : Window(app.platform, kName),
+      app_(app),
+      globals_(app.globals),
       controls_made_(MakeControls()),
       Display(Get("Display")),
       ExponentText(Get("ExponentText")),
@@ -140,7 +139,7 @@ void CalcWindow::WireHandlers() {
   ToggleTrigButtonsTimer.Action = [this] { ToggleTrigButtonsTimer_Action(); };
 }
 
-std::optional<CalcWindow::FieldValue> CalcWindow::FieldByName(std::string_view name) const {
+std::optional<FieldValue> CalcWindow::FieldByName(std::string_view name) const {
   const std::pair<std::string_view, std::function<FieldValue()>> fields[] = {
       {"Result", [this] { return FieldValue{Result}; }},
       {"Stored", [this] { return FieldValue{Stored}; }},
@@ -166,7 +165,13 @@ std::optional<CalcWindow::FieldValue> CalcWindow::FieldByName(std::string_view n
   };
   for (const auto& [field, read] : fields)
     if (StrEq(field, name)) return read();
+  for (const auto& part : parts_)
+    if (auto value = part->FieldByName(name)) return value;
   return std::nullopt;
 }
+
+CalcWindow::~CalcWindow() = default;
+
+void CalcWindow::AddPart(std::unique_ptr<MainWindowPart> part) { parts_.push_back(std::move(part)); }
 
 }  // namespace tessarine

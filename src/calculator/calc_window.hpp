@@ -20,6 +20,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,15 +31,21 @@
 #include "runtime/control.hpp"
 #include "runtime/numbers.hpp"
 #include "runtime/window.hpp"
+#include "calculator/main_window_part.hpp"
+#include "settings/app_context.hpp"
 #include "settings/global_stuff.hpp"
 
 namespace tessarine {
 
-class Program;
-
 class CalcWindow final : public Window {
  public:
-  explicit CalcWindow(Program& program);
+  explicit CalcWindow(AppContext& app);
+  ~CalcWindow() override;
+  static constexpr const char* kName = "CalcWindow";
+
+  // A subsystem's part of the window (a tab page's logic), which wires its own
+  // controls' handlers. The window owns it; parts are added before it opens.
+  void AddPart(std::unique_ptr<MainWindowPart> part);
 
   // --- The keypad's state -------------------------------------------------
   double Result = 0;        // the current value: on display, read and written by every key
@@ -63,7 +70,6 @@ class CalcWindow final : public Window {
   // --- Memory banks (memory_banks.cpp) --------------------------------------
   BoundedArray<double, 0, 11> StorageValue;  // banks 1 to 10
   std::string StorageAction;                  // "Add", "Minus", "Recall" or "Clear"
-  BoundedArray<double, 0, 10> Memory;         // a second set of banks that nothing uses
   void StoragePlusButton_Action() { OpenStorageMenu("Add"); }
   void StorageMinusButton_Action() { OpenStorageMenu("Minus"); }
   void StorageRecallButton_Action() { OpenStorageMenu("Recall"); }
@@ -71,9 +77,6 @@ class CalcWindow final : public Window {
   bool StorageMenu_CellClick(int row, int column, int x, int y);
   void StorageMenu_MouseMove(int x, int y);
   void StorageMenu_MouseExit();
-  void MemoryPlus(int i);
-  void MemoryMinus(int i);
-  void MemoryClear(int i);
   // The list's row text of bank i.
   std::string StorageRowText(int bank) const;
 
@@ -179,7 +182,6 @@ class CalcWindow final : public Window {
   void WriteToTape(const std::string& mark);
   void ShowTape();
   void SaveTapePlace();
-  bool TextHasChanged = false;  // set by the tape; nothing reads it
   void SpeakButton(const std::string& text);
   void SpeakTotal(const std::string& text);
   void PlayNumberSound();
@@ -201,8 +203,7 @@ class CalcWindow final : public Window {
   void HelpTagsEnabled(bool enabled);
 
   // A field of the keypad's logic by name, for the headless driver.
-  using FieldValue = std::variant<double, std::string, bool, std::int64_t>;
-  std::optional<FieldValue> FieldByName(std::string_view name) const;
+  std::optional<FieldValue> FieldByName(std::string_view name) const override;
 
   // The controls that the error state disables, in their order.
   const std::vector<Control*>& ErrorStateControls() const { return error_state_controls_; }
@@ -239,8 +240,9 @@ class CalcWindow final : public Window {
     return tessarine::Format(x, mask, platform_.decimal_separator);
   }
 
-  Program& program_;
+  AppContext& app_;
   GlobalStuff& globals_;
+  std::vector<std::unique_ptr<MainWindowPart>> parts_;
   bool controls_made_;  // made before the references below are bound
 
   // The controls the keypad touches on every key.

@@ -5,7 +5,6 @@
 #include "calculator/calc_window.hpp"
 #include "calculator/long_loop.hpp"
 #include "runtime/arithmetic.hpp"
-#include "shell/program.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -105,7 +104,7 @@ double CalcWindow::ComputeCombinations() {
   LongLoop loop(platform_);
   Control* bar = nullptr;
   if (n - k > 50) {
-    bar = &program_.ShowProgressBarWindow().CalculatingProgressBar;
+    bar = &ShowProgressBarWindow(app_).CalculatingProgressBar;
     bar->SetValue(1);
     bar->SetMaximum(500);
   }
@@ -120,7 +119,7 @@ double CalcWindow::ComputeCombinations() {
       first.At(i);
       if (loop.AbortChordDown()) {
         LongCalculationAborted = true;
-        program_.CloseProgressBarWindow();
+        CloseProgressBarWindow(app_);
         return Result;
       }
       loop.Round();
@@ -137,14 +136,14 @@ double CalcWindow::ComputeCombinations() {
       if (loop.AbortChordDown()) {
         // Unlike the first loop, this one leaves LongCalculationAborted alone: the
         // period of the chord then arrives as a decimal point.
-        program_.CloseProgressBarWindow();
+        CloseProgressBarWindow(app_);
         return Result;
       }
       loop.Round();
     }
   }
 
-  program_.CloseProgressBarWindow();
+  CloseProgressBarWindow(app_);
   return Round(Exp(a - b));
 }
 

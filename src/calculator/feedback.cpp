@@ -4,8 +4,6 @@
 #include "calculator/calc_window.hpp"
 #include "runtime/exceptions.hpp"
 #include "runtime/text.hpp"
-#include "shell/program.hpp"
-#include "shell/tessarine_app.hpp"
 
 namespace tessarine {
 
@@ -34,7 +32,7 @@ std::string SpeakableText(const std::string& text) {
 }  // namespace
 
 bool CalcWindow::MenuChecked(const char* item) {
-  return program_.App().GetMenuBar().Item(item).checked;
+  return app_.menu_bar.Item(item).checked;
 }
 
 void CalcWindow::SpeakButton(const std::string& text) {
@@ -46,13 +44,13 @@ void CalcWindow::SpeakTotal(const std::string& text) {
 }
 
 void CalcWindow::SpeakButtonsClicked() {
-  MenuBar& bar = program_.App().GetMenuBar();
+  MenuBar& bar = app_.menu_bar;
   MenuItem& item = bar.Item("SpeechSpeakButtonMenu");
   bar.SetChecked(item, !item.checked);
 }
 
 void CalcWindow::SpeakTotalClicked() {
-  MenuBar& bar = program_.App().GetMenuBar();
+  MenuBar& bar = app_.menu_bar;
   MenuItem& item = bar.Item("SpeechSpeakTotalMenu");
   bar.SetChecked(item, !item.checked);
 }

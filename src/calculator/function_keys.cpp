@@ -2,7 +2,6 @@
 // keys that set a value, and two-operand keys that arm Calculate.
 #include "calculator/calc_window.hpp"
 #include "runtime/arithmetic.hpp"
-#include "shell/program.hpp"
 
 namespace tessarine {
 
@@ -66,7 +65,7 @@ void CalcWindow::ButtonRoundUpAction() {
 
 void CalcWindow::ButtonRandomAction() {
   WriteToTape("   rnd");
-  Result = program_.Random().Rnd();
+  Result = app_.random.Rnd();
   UpdateDisplay();
   WriteToTape("     ◊");
   ClearDisplay = false;

@@ -87,17 +87,4 @@ void CalcWindow::StorageMenu_MouseExit() {
   if (globals_.ShowHelpTags) HelpTagsEnabled(true);
 }
 
-void CalcWindow::MemoryPlus(int i) {
-  Memory(i) = Memory(i) + Result;
-  ClearDisplay = true;
-}
-void CalcWindow::MemoryMinus(int i) {
-  Memory(i) = Memory(i) - Result;
-  ClearDisplay = true;
-}
-void CalcWindow::MemoryClear(int i) {
-  Memory(i) = 0;
-  ClearDisplay = true;
-}
-
 }  // namespace tessarine

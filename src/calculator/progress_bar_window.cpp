@@ -5,7 +5,7 @@
 namespace tessarine {
 
 ProgressBarWindow::ProgressBarWindow(Platform& platform)
-    : Window(platform, "ProgressBarWindow"),
+    : Window(platform, kName),
       CalculatingProgressBar(
           (AddControl(ControlSpec::At("CalculatingText", ControlKind::Label, 20, 14, 259, 20,
                                       "Calculating...")),
@@ -19,6 +19,20 @@ ProgressBarWindow::ProgressBarWindow(Platform& platform)
 void ProgressBarWindow::Event_Open() {
   // The design text names a Mac key; the message names the chord of this keyboard.
   Get("ProgressBarMessage").SetText(std::string("Press ") + kAbortChordName + " to abort.");
+}
+
+ProgressBarWindow& ShowProgressBarWindow(AppContext& app) {
+  const bool showing = app.windows.FindOpen(ProgressBarWindow::kName) != nullptr;
+  auto& window = app.windows.Instance<ProgressBarWindow>(ProgressBarWindow::kName);
+  if (!showing) app.platform.desktop.ShowWindow(window.Name(), true);
+  return window;
+}
+
+void CloseProgressBarWindow(AppContext& app) {
+  Window* window = app.windows.FindOpen(ProgressBarWindow::kName);
+  if (!window) return;
+  window->Close();
+  app.platform.desktop.CloseWindow(window->Name());
 }
 
 }  // namespace tessarine

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "runtime/window.hpp"
+#include "settings/app_context.hpp"
 
 namespace tessarine {
 
@@ -12,11 +13,17 @@ inline constexpr const char* kAbortChordName = "Ctrl + period";
 class ProgressBarWindow final : public Window {
  public:
   explicit ProgressBarWindow(Platform& platform);
+  static constexpr const char* kName = "ProgressBarWindow";
 
   Control& CalculatingProgressBar;
 
  protected:
   void Event_Open() override;
 };
+
+// Shows the sheet over the main window, made anew if it is not open.
+ProgressBarWindow& ShowProgressBarWindow(AppContext& app);
+// Takes the sheet away, if it shows.
+void CloseProgressBarWindow(AppContext& app);
 
 }  // namespace tessarine

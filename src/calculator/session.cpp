@@ -8,8 +8,6 @@
 #include "runtime/arithmetic.hpp"
 #include "runtime/date.hpp"
 #include "runtime/text.hpp"
-#include "shell/program.hpp"
-#include "shell/tessarine_app.hpp"
 
 namespace tessarine {
 
@@ -32,7 +30,7 @@ void CalcWindow::Event_Open() {
   StringResult.clear();
 
   // 2. The store; nothing may read it earlier.
-  PrefsModule& prefs = program_.Prefs();
+  PrefsModule& prefs = app_.prefs;
   prefs.SetName("Tessarine4 Preferences", "PREF");
 
   // 3. Modes and flags.
@@ -97,18 +95,24 @@ void CalcWindow::Event_Open() {
   for (int n = 1; n <= 10; ++n) Get("StorageMenu").SetRow(n - 1, StorageRowText(n));
 
   // 12. Speech: the key holds the state before one flip.
-  MenuBar& bar = program_.App().GetMenuBar();
+  MenuBar& bar = app_.menu_bar;
   bar.SetChecked(bar.Item("SpeechSpeakButtonMenu"),
                  prefs.GetBooleanValue("SpeakButton", true, true));
   SpeakButtonsClicked();
   bar.SetChecked(bar.Item("SpeechSpeakTotalMenu"), prefs.GetBooleanValue("SpeakTotal", true, true));
   SpeakTotalClicked();
 
+  // 13. The currency rates.
+  for (const auto& part : parts_) part->Restore(MainWindowPart::OpenStep::Rates);
+
   // 14. The tape's place while hidden.
   globals_.TapeWindowLeftPosition = ToInt(prefs.GetNumberValue("TapeLeftPosition", 10, true));
   globals_.TapeWindowTopPosition = ToInt(prefs.GetNumberValue("TapeTopPosition", 100, true));
   globals_.TapeWindowHeight = ToInt(prefs.GetNumberValue("TapeHeight", 250, true));
   if (TapeVisibleAtStartup) ShowTape();
+
+  // 15. The conversion tab's choices.
+  for (const auto& part : parts_) part->Restore(MainWindowPart::OpenStep::Choices);
 
   // 16, 17. The first value appears a tenth of a second later.
   StartupMessageTimer.SetPeriod(100);
@@ -119,8 +123,7 @@ void CalcWindow::Event_Open() {
 void CalcWindow::StartupMessageTimer_Action() {
   const Date now(platform_.clock);
   const std::string t = now.ShortDate() + " " + now.ShortTime();
-  (void)t;  // compared with the rates' date once they exist
-  PrefsModule& prefs = program_.Prefs();
+  PrefsModule& prefs = app_.prefs;
   Display.SetTextSize(15);
   if (globals_.SaveDisplay) {
     Display.SetText(prefs.GetStringValue("SavedDisplayValue", "0", true));
@@ -135,10 +138,11 @@ void CalcWindow::StartupMessageTimer_Action() {
   UpdateDisplay();
   globals_.NumberOfLaunches = ToInt(prefs.GetNumberValue("NumberOfLaunchesVal", 1, true));
   globals_.NumberOfLaunches += 1;  // in memory only; the close saves it
+  for (const auto& part : parts_) part->Started(t);
 }
 
 void CalcWindow::Event_Close() {
-  PrefsModule& prefs = program_.Prefs();
+  PrefsModule& prefs = app_.prefs;
   prefs.SetBooleanValue("ShowToolTipHelpTags", globals_.ShowHelpTags, true);
   if (ShowAdvancedFeatures) {
     prefs.SetBooleanValue("StartupWithAdvancedFeatures", true, true);
@@ -151,7 +155,7 @@ void CalcWindow::Event_Close() {
   prefs.SetNumberValue("LeftPosition", Left(), true);
   prefs.SetNumberValue("TopPosition", Top(), true);
   // Stored as the opposite of the check mark: the opening flips it once.
-  MenuBar& bar = program_.App().GetMenuBar();
+  MenuBar& bar = app_.menu_bar;
   prefs.SetBooleanValue("SpeakButton", !bar.Item("SpeechSpeakButtonMenu").checked, true);
   prefs.SetBooleanValue("SpeakTotal", !bar.Item("SpeechSpeakTotalMenu").checked, true);
   prefs.SetStringValue("NoExpFormat", globals_.NoExponentFormat, true);
@@ -175,6 +179,7 @@ void CalcWindow::Event_Close() {
   prefs.SetNumberValue("TapeLeftPosition", globals_.TapeWindowLeftPosition, true);
   prefs.SetNumberValue("TapeTopPosition", globals_.TapeWindowTopPosition, true);
   prefs.SetNumberValue("TapeHeight", globals_.TapeWindowHeight, true);
+  for (const auto& part : parts_) part->Closing();
   prefs.WriteOut();
   platform_.desktop.Quit();  // closing the main window ends the program
 }

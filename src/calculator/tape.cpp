@@ -2,19 +2,20 @@
 // tape window.
 #include "calculator/calc_window.hpp"
 #include "calculator/tape_window.hpp"
-#include "shell/program.hpp"
-#include "shell/tessarine_app.hpp"
+#include "runtime/text.hpp"
 
 namespace tessarine {
 
 bool CalcWindow::TapeIsOn() {
   // Asking the switch makes the tape window if it does not exist yet.
-  return program_.GetTapeWindow().TapeOnButton.IsDown();
+  return GetTapeWindow(app_).TapeOnButton.IsDown();
 }
 
 void CalcWindow::AppendToTape(const std::string& text) {
-  Control& field = program_.GetTapeWindow().TapeEditField;
-  field.SetText(field.Text() + text);  // always at the end, whatever the selection
+  // Always at the end, whatever the user selected: the caret goes there first.
+  Control& field = GetTapeWindow(app_).TapeEditField;
+  field.SetSelStart(Len(field.Text()));
+  field.SetSelText(text);
 }
 
 void CalcWindow::WriteToTape(const std::string& mark) {
@@ -22,17 +23,17 @@ void CalcWindow::WriteToTape(const std::string& mark) {
 }
 
 void CalcWindow::ShowTape() {
-  MenuBar& bar = program_.App().GetMenuBar();
+  MenuBar& bar = app_.menu_bar;
   bar.SetText(bar.Item("FileTapeControlMenu"), "Hide Tape");
-  TapeWindow& tape = program_.GetTapeWindow();
+  TapeWindow& tape = GetTapeWindow(app_);
   tape.SetBounds(globals_.TapeWindowLeftPosition, globals_.TapeWindowTopPosition, tape.Width(),
                  globals_.TapeWindowHeight);
   tape.SetVisible(true);
-  program_.Prefs().SetBooleanValue("TapeVisible", true, true);
+  app_.prefs.SetBooleanValue("TapeVisible", true, true);
 }
 
 void CalcWindow::SaveTapePlace() {
-  if (TapeWindow* tape = program_.ExistingTapeWindow()) tape->Event_Moved();
+  if (TapeWindow* tape = ExistingTapeWindow(app_)) tape->Event_Moved();
 }
 
 }  // namespace tessarine

@@ -4,49 +4,52 @@
 
 #include "calculator/calc_window.hpp"
 #include "runtime/text.hpp"
-#include "shell/program.hpp"
 
 namespace tessarine {
 
-TapeWindow::TapeWindow(Program& program)
-    : Window(program.GetPlatform(), "TapeWindow"),
+TapeWindow& GetTapeWindow(AppContext& app) {
+  return app.windows.Instance<TapeWindow>(TapeWindow::kName);
+}
+
+TapeWindow* ExistingTapeWindow(const AppContext& app) {
+  return app.windows.Existing<TapeWindow>(TapeWindow::kName);
+}
+
+TapeWindow::TapeWindow(AppContext& app)
+    : Window(app.platform, kName, "Tessarine Tape"),
       TapeEditField(
           AddControl(ControlSpec::At("TapeEditField", ControlKind::TextArea, 0, 0, 205, 218, ""))),
       TapeOnButton(AddControl(
           ControlSpec::At("TapeOnButton", ControlKind::RadioButton, 8, 224, 44, 20, "On"))),
       TapeOffButton(AddControl(
           ControlSpec::At("TapeOffButton", ControlKind::RadioButton, 56, 224, 44, 20, "Off"))),
-      program_(program) {
+      app_(app) {
   AddControl(
       ControlSpec::At("ClearTapeButton", ControlKind::PushButton, 130, 223, 67, 22, "Clear"));
   SetVisible(false);  // it exists from the first write on, shown or not
-  SetBounds(program.Globals().TapeWindowLeftPosition, program.Globals().TapeWindowTopPosition, 205,
-            program.Globals().TapeWindowHeight);
+  SetBounds(app.globals.TapeWindowLeftPosition, app.globals.TapeWindowTopPosition, 205,
+            app.globals.TapeWindowHeight);
   LayOut();
   TapeEditField.events.DropObject = [this](const std::vector<std::string>& paths) {
     TapeEditField_DropObject(paths);
   };
 
-  PrefsModule& prefs = program.Prefs();
+  PrefsModule& prefs = app.prefs;
   TapeOnButton.events.Action = [&prefs] { prefs.SetBooleanValue("TapeOn", true, true); };
   TapeOffButton.events.Action = [&prefs] { prefs.SetBooleanValue("TapeOn", false, true); };
   TapeEditField.events.TextChange = [this] {
     // Every change, by the user or by a write.
-    if (CalcWindow* calc = program_.ExistingCalcWindow()) calc->TextHasChanged = true;
-    program_.TapeChanged = true;
+    app_.globals.TapeChanged = true;
   };
-  Get("ClearTapeButton").events.Action = [this] {
-    TapeEditField.SetText("");
-    if (CalcWindow* calc = program_.ExistingCalcWindow()) calc->TextHasChanged = false;
-  };
+  Get("ClearTapeButton").events.Action = [this] { TapeEditField.SetText(""); };
 }
 
 void TapeWindow::Event_Open() {
-  const GlobalStuff& globals = program_.Globals();
+  const GlobalStuff& globals = app_.globals;
   SetBounds(globals.TapeWindowLeftPosition, globals.TapeWindowTopPosition, 205,
             std::max(globals.TapeWindowHeight, MinimumHeight()));
   LayOut();
-  const CalcWindow* calc = program_.ExistingCalcWindow();
+  const auto* calc = app_.windows.Existing<CalcWindow>(CalcWindow::kName);
   if (calc && calc->TapeOnAtStartup)
     TapeOnButton.SetValue(true);
   else
@@ -54,7 +57,7 @@ void TapeWindow::Event_Open() {
 }
 
 void TapeWindow::Event_Moved() {
-  GlobalStuff& globals = program_.Globals();
+  GlobalStuff& globals = app_.globals;
   globals.TapeWindowLeftPosition = Left();
   globals.TapeWindowTopPosition = Top();
   globals.TapeWindowHeight = Height();
@@ -78,6 +81,27 @@ void TapeWindow::LayOut() {
   for (Control* button : {&TapeOnButton, &TapeOffButton, &Get("ClearTapeButton")})
     button->SetBounds(button->Left(), foot - (button == &TapeOnButton || button == &TapeOffButton ? 0 : 1),
                       button->Width(), button->Height());
+}
+
+void TapeWindow::Event_EnableMenuItems(MenuBar& bar) {
+  bar.SetEnabled(bar.Item("EditSelectAll"), true);
+  // Copy enables itself while the field holds a selection, as a text field's does.
+  bar.SetEnabled(bar.Item("EditCopy"), TapeEditField.SelLength() > 0);
+}
+
+bool TapeWindow::HandleMenuCommand(MenuBar&, std::string_view name, int) {
+  if (StrEq(name, "EditCopy")) return _EditCopy_Action(), true;
+  if (StrEq(name, "EditSelectAll")) return _EditSelectAll_Action(), true;
+  return false;
+}
+
+void TapeWindow::_EditCopy_Action() {
+  if (TapeEditField.SelLength() > 0) GetPlatform().clipboard.SetText(TapeEditField.SelText());
+}
+
+void TapeWindow::_EditSelectAll_Action() {
+  TapeEditField.SetSelStart(0);
+  TapeEditField.SetSelLength(Len(TapeEditField.Text()));
 }
 
 void TapeWindow::TapeEditField_DropObject(const std::vector<std::string>& paths) {

@@ -6,14 +6,20 @@
 #include <string>
 
 #include "runtime/window.hpp"
+#include "settings/app_context.hpp"
 
 namespace tessarine {
 
-class Program;
+// The tape window, made hidden on first use; ExistingTapeWindow does not make it.
+class TapeWindow;
+TapeWindow& GetTapeWindow(AppContext& app);
+TapeWindow* ExistingTapeWindow(const AppContext& app);
 
 class TapeWindow final : public Window {
  public:
-  explicit TapeWindow(Program& program);
+  explicit TapeWindow(AppContext& app);
+
+  static constexpr const char* kName = "TapeWindow";
 
   Control& TapeEditField;
   Control& TapeOnButton;
@@ -31,12 +37,18 @@ class TapeWindow final : public Window {
   void UserResized(int width, int height) override;
   int MinimumHeight() const override { return 100; }
 
+  // Menus while the tape is in front: Select All, and Copy of the selection.
+  void Event_EnableMenuItems(MenuBar& bar) override;
+  bool HandleMenuCommand(MenuBar& bar, std::string_view name, int index) override;
+  void _EditCopy_Action();
+  void _EditSelectAll_Action();
+
  protected:
   void Event_Open() override;
 
  private:
   void LayOut();
-  Program& program_;
+  AppContext& app_;
 };
 
 }  // namespace tessarine

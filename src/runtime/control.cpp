@@ -1,8 +1,10 @@
 #include "runtime/control.hpp"
 
+#include <algorithm>
 #include <utility>
 
 #include "runtime/exceptions.hpp"
+#include "runtime/text.hpp"
 #include "runtime/window.hpp"
 
 namespace tessarine {
@@ -82,8 +84,51 @@ void Control::Raise(const std::function<void()>& handler, std::string_view event
 void Control::SetText(std::string text) {
   if (text == text_) return;
   text_ = std::move(text);
+  ClampSelection();
   Notify(Property::Text);
   Raise(events.TextChange, "TextChange");
+}
+
+void Control::ClampSelection() {
+  const int length = Len(text_);
+  const int start = std::clamp(sel_start_, 0, length);
+  const int selected = std::clamp(sel_length_, 0, length - start);
+  if (start == sel_start_ && selected == sel_length_) return;
+  sel_start_ = start;
+  sel_length_ = selected;
+  Notify(Property::Selection);
+}
+
+void Control::SetSelStart(int start) {
+  sel_start_ = std::clamp(start, 0, Len(text_));
+  sel_length_ = 0;
+  Notify(Property::Selection);
+}
+
+void Control::SetSelLength(int length) {
+  sel_length_ = std::clamp(length, 0, Len(text_) - sel_start_);
+  Notify(Property::Selection);
+}
+
+std::string Control::SelText() const { return Mid(text_, sel_start_ + 1, sel_length_); }
+
+void Control::SetSelText(const std::string& text) {
+  std::string replaced = tessarine::Left(text_, sel_start_) + text + Mid(text_, sel_start_ + sel_length_ + 1);
+  sel_start_ += Len(text);
+  sel_length_ = 0;
+  if (replaced == text_) {
+    Notify(Property::Selection);
+    return;
+  }
+  text_ = std::move(replaced);
+  Notify(Property::Text);
+  Notify(Property::Selection);
+  Raise(events.TextChange, "TextChange");
+}
+
+void Control::UserSetSelection(int start, int length) {
+  sel_start_ = std::clamp(start, 0, Len(text_));
+  sel_length_ = std::clamp(length, 0, Len(text_) - sel_start_);
 }
 
 void Control::SetValue(int value) {
@@ -94,10 +139,12 @@ void Control::SetValue(int value) {
   switch (kind_) {
     case ControlKind::RadioButton:
       if (value_ && changed) {
-        // Selecting one radio button of a group clears the others of its array.
+        // Selecting one radio button clears the others of its group: the radio
+        // buttons of one parent, on one page of it, as a desktop toolkit groups them.
         for (const auto& other : owner_.Controls()) {
           if (other.get() != this && other->kind_ == ControlKind::RadioButton &&
-              other->name_ == name_ && other->value_) {
+              other->parent_ == parent_ && other->tab_page_ == tab_page_ &&
+              other->panel_page_ == panel_page_ && other->value_) {
             other->value_ = 0;
             other->Notify(Property::Value);
           }

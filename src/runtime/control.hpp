@@ -62,6 +62,7 @@ enum class Property {
   TextSize,
   Bounds,
   Maximum,
+  Selection,
 };
 
 // Where and what a control is when its window is made: one row of a window's
@@ -135,6 +136,17 @@ class Control {
   const std::string& Caption() const { return text_; }
   void SetCaption(std::string text) { SetText(std::move(text)); }
 
+  // A text field's selection, in characters from 0; a length of 0 is the caret.
+  // Setting SelStart empties the selection; SelText replaces the selection and
+  // leaves the caret after what it put in. Text assignments keep the selection
+  // within the text.
+  int SelStart() const { return sel_start_; }
+  int SelLength() const { return sel_length_; }
+  void SetSelStart(int start);
+  void SetSelLength(int length);
+  std::string SelText() const;
+  void SetSelText(const std::string& text);
+
   // A button's pressed state or a check box's check (0 or 1); a panel's page.
   int Value() const { return value_; }
   bool IsDown() const { return value_ != 0; }
@@ -177,6 +189,7 @@ class Control {
   void Click();  // a button's action, a check box's toggle, a radio's selection
   void UserSetText(std::string text);
   void UserSetListIndex(int index);
+  void UserSetSelection(int start, int length);
   bool UserKeyDown(const std::string& key);
   bool UserMouseDown(int x, int y);
   void UserMouseUp(int x, int y);
@@ -187,6 +200,7 @@ class Control {
 
  private:
   void Notify(Property property);
+  void ClampSelection();
   void Raise(const std::function<void()>& handler, std::string_view event);
 
   Window& owner_;
@@ -201,6 +215,7 @@ class Control {
   int maximum_ = 100;
   std::vector<std::string> rows_;
   int list_index_ = -1;
+  int sel_start_ = 0, sel_length_ = 0;
   bool enabled_ = true;
   bool visible_;
   std::string help_tag_;

@@ -16,8 +16,8 @@ std::string FoldName(std::string_view name) {
 }
 }  // namespace
 
-Window::Window(Platform& platform, std::string name)
-    : platform_(platform), name_(std::move(name)) {}
+Window::Window(Platform& platform, std::string name, std::string title)
+    : platform_(platform), name_(std::move(name)), title_(std::move(title)) {}
 
 Window::~Window() = default;
 

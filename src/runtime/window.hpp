@@ -6,12 +6,14 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
 #include "runtime/control.hpp"
+#include "runtime/field_value.hpp"
 #include "runtime/menu_bar.hpp"
 #include "runtime/platform/platform.hpp"
 #include "runtime/timer.hpp"
@@ -20,12 +22,15 @@ namespace tessarine {
 
 class Window {
  public:
-  Window(Platform& platform, std::string name);
+  // The title is what the desktop shows in the window's frame; the name is how
+  // the program finds it.
+  Window(Platform& platform, std::string name, std::string title = "Tessarine");
   Window(const Window&) = delete;
   Window& operator=(const Window&) = delete;
   virtual ~Window();
 
   const std::string& Name() const { return name_; }
+  const std::string& Title() const { return title_; }
   Platform& GetPlatform() const { return platform_; }
 
   Control& AddControl(const ControlSpec& spec);
@@ -76,12 +81,17 @@ class Window {
     return false;
   }
 
+  // A field of the window's logic by name, for the driver; nothing when it has none.
+  virtual std::optional<FieldValue> FieldByName(std::string_view) const { return std::nullopt; }
+
   // A key typed while no text field has the focus.
   bool KeyDown(const std::string& key);
 
   // Runs one event handler. Faults escaping the outermost handler are reported
   // and swallowed; inside a nested event they travel on to the outer handler.
   void Dispatch(std::string_view handler_name, const std::function<void()>& handler);
+  // Whether one of the window's handlers is running now.
+  bool Dispatching() const { return dispatch_depth_ > 0; }
 
   // Change notification for front ends: a control's property, or the window's
   // bounds (control == nullptr).
@@ -98,6 +108,7 @@ class Window {
 
  private:
   std::string name_;
+  std::string title_;
   std::vector<std::unique_ptr<Control>> controls_;
   std::unordered_map<std::string, std::vector<Control*>> by_name_;  // folded name
   std::vector<std::unique_ptr<Timer>> timers_;

@@ -42,6 +42,11 @@ struct GlobalStuff {
   int TapeWindowTopPosition = 100;
   int TapeWindowHeight = 250;
 
+  // Whether the tape's text changed since it was last saved, and the file its save
+  // dialog picked.
+  bool TapeChanged = false;
+  std::string Document;
+
   // Rebuilds the four display strings from a number of decimals (0 to 10), as the
   // preferences do when the user changes it.
   void RebuildFormats(int decimals);

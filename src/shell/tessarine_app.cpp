@@ -5,13 +5,14 @@
 #include "calculator/calc_window.hpp"
 #include "calculator/tape_window.hpp"
 #include "runtime/text.hpp"
+#include "settings/deployment.hpp"
 #include "shell/main_menu.hpp"
-#include "shell/main_window_layout.hpp"
 #include "shell/program.hpp"
 
 namespace tessarine {
 
-TessarineApp::TessarineApp(Program& program) : program_(program) {
+TessarineApp::TessarineApp(Program& program)
+    : program_(program), menu_bar_(program.Context().menu_bar) {
   BuildMainMenu(menu_bar_);
   // Items whose windows are not built yet (about, preferences, the update check)
   // have their place here and do nothing until then.
@@ -50,15 +51,17 @@ void TessarineApp::Event_EnableMenuItems() {
         bar.SetEnabled(bar.Item(item.name, item.index), constants);
   for (const char* name : {"MenuCustomize", "SpeechSpeakButtonMenu", "SpeechSpeakTotalMenu"})
     bar.SetEnabled(bar.Item(name), true);
-  bar.SetEnabled(bar.Item("FileSaveTape"), program_.TapeChanged);
+  bar.SetEnabled(bar.Item("FileSaveTape"), program_.Globals().TapeChanged);
 }
 
+Window* TessarineApp::Front() { return program_.Windows().Front(); }
+
 void TessarineApp::EnableMenuItems() {
-  CalcWindow* calc = program_.ExistingCalcWindow();
-  if (calc && calc->IsOpen()) {
-    calc->Dispatch("Event_EnableMenuItems", [&] {
+  Window* front = Front();
+  if (front) {
+    front->Dispatch("Event_EnableMenuItems", [&] {
       Event_EnableMenuItems();
-      calc->Event_EnableMenuItems(menu_bar_);
+      front->Event_EnableMenuItems(menu_bar_);
     });
   } else {
     Event_EnableMenuItems();
@@ -71,17 +74,17 @@ bool TessarineApp::MenuCommand(std::string_view name, int index) {
   EnableMenuItems();
   if (!item->enabled || item->IsSeparator()) return true;
   const std::string item_name = item->name;
-  CalcWindow* calc = program_.ExistingCalcWindow();
+  Window* front = Front();
   bool handled = false;
-  if (calc && calc->IsOpen()) {
-    calc->Dispatch("_" + item_name + "_Action",
-                   [&] { handled = calc->HandleMenuCommand(menu_bar_, item_name, index); });
+  if (front) {
+    front->Dispatch("_" + item_name + "_Action",
+                    [&] { handled = front->HandleMenuCommand(menu_bar_, item_name, index); });
   }
   if (handled) return true;
   for (const auto& [handler_name, handler] : handlers_) {
     if (!StrEq(handler_name, item_name)) continue;
-    if (calc && calc->IsOpen())
-      calc->Dispatch("_" + item_name + "_Action", handler);
+    if (front)
+      front->Dispatch("_" + item_name + "_Action", handler);
     else
       handler();
   }
@@ -114,8 +117,8 @@ void TessarineApp::_FileTapeControlMenu_Action() {
 // The tape has no file format: the dialog records the file picked, and nothing is
 // written. "Save Tape..." goes off whatever the answer.
 void TessarineApp::_FileSaveTape_Action() {
-  if (auto file = program_.GetPlatform().desktop.AskSaveFile()) program_.Document = *file;
-  program_.TapeChanged = false;
+  if (auto file = program_.GetPlatform().desktop.AskSaveFile()) program_.Globals().Document = *file;
+  program_.Globals().TapeChanged = false;
 }
 
 void TessarineApp::_FilePageSetup_Action() {

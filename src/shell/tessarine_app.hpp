@@ -1,6 +1,7 @@
-// TessarineApp: the application object. It owns the menu bar, keeps its items
+// TessarineApp: the application object. It builds the menu bar, keeps its items
 // enabled by the rules of the moment, and routes a menu command first to the
-// frontmost window's handler of that item, then to its own.
+// frontmost window's handler of that item, then to its own: the one way every
+// menu command goes, from a click, a shortcut or the driver.
 #pragma once
 
 #include <functional>
@@ -10,6 +11,7 @@
 #include <vector>
 
 #include "runtime/menu_bar.hpp"
+#include "runtime/window.hpp"
 
 namespace tessarine {
 
@@ -37,8 +39,11 @@ class TessarineApp {
   void _FilePageSetup_Action();
   void _FilePrintTape_Action();
 
+  // The window whose handlers run first, dispatching through it.
+  Window* Front();
+
   Program& program_;
-  MenuBar menu_bar_;
+  MenuBar& menu_bar_;
   // The application's handlers by item name, in their order of registration.
   std::vector<std::pair<std::string, std::function<void()>>> handlers_;
 };

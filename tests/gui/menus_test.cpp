@@ -68,7 +68,7 @@ class MenusTest : public GuiSuite {
     OpenAndClose("ConstantsMenu");
     QVERIFY(constant->isEnabled());
     QVERIFY(!f_->View().Menus().ActionFor("FileSaveTape")->isEnabled() ||
-            f_->App().GetProgram().TapeChanged);
+            f_->App().GetProgram().Globals().TapeChanged);
     // In the error state the constants follow the clear-entry key.
     f_->Type(QStringLiteral("5/0="));
     OpenAndClose("ConstantsMenu");

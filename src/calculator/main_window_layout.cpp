@@ -1,4 +1,4 @@
-#include "shell/main_window_layout.hpp"
+#include "calculator/main_window_layout.hpp"
 
 #include <cstdint>
 #include <string>

@@ -8,11 +8,9 @@
 #include <vector>
 
 #include "runtime/control.hpp"
+#include "settings/deployment.hpp"
 
 namespace tessarine {
-
-// The maker's host name, shown at the foot of the main window.
-inline constexpr std::string_view kMakerHostName = "tessarine.example.org";
 
 // The captions of the tab pages of CalcTabSelector, in order.
 inline constexpr std::string_view kTabCaptions[] = {"Math", "Convert", "Stats", "Fractions",

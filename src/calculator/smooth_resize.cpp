@@ -1,16 +1,16 @@
-#include "shell/smooth_resize.hpp"
+#include "calculator/smooth_resize.hpp"
 
 #include <algorithm>
 
 namespace tessarine {
 
-void SmoothResize(Window& window, int new_width, int new_height, int anchor) {
+void SmoothResize(Window& window, int new_width, int new_height, Anchor anchor) {
   const int dw = new_width - window.Width();
   const int dh = new_height - window.Height();
   int top = window.Top();
   int left = window.Left();
-  if (anchor == kAnchorTopRight || anchor == kAnchorBottomRight) left -= dw;
-  if (anchor == kAnchorBottomLeft || anchor == kAnchorBottomRight) top -= dh;
+  if (anchor == Anchor::TopRight || anchor == Anchor::BottomRight) left -= dw;
+  if (anchor == Anchor::BottomLeft || anchor == Anchor::BottomRight) top -= dh;
   window.SetBounds(std::max(left, 0), std::max(top, 44), new_width, new_height);
 }
 
