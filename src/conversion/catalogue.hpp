@@ -28,9 +28,9 @@ enum ConversionCategory : int {
 inline constexpr int kCategoryCount = 11;
 
 // Preferences keys of the three popups' rows (numbers, stored encrypted; default 0).
-inline constexpr std::string_view kConvertCategoryKey = "ConvertCategoryPopUpSetting";
-inline constexpr std::string_view kConvertFromKey = "ConvertFromPopUpSetting";
-inline constexpr std::string_view kConvertToKey = "ConvertToPopUpSetting";
+inline constexpr char kConvertCategoryKey[] = "ConvertCategoryPopUpSetting";
+inline constexpr char kConvertFromKey[] = "ConvertFromPopUpSetting";
+inline constexpr char kConvertToKey[] = "ConvertToPopUpSetting";
 
 // The category popup's rows, "Area" to "Volume".
 std::span<const std::string_view> CategoryNames();

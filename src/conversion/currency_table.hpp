@@ -28,9 +28,9 @@ CurrencyRates DefaultCurrencyRates();
 
 // Preferences keys (string values, stored encrypted like every key of the program).
 std::string CurrencyRateKey(int index);  // "CurrencyRate0" .. "CurrencyRate46"
-inline constexpr std::string_view kCurrencyUpdateTimeAndDateKey = "CurrencyUpdateTimeAndDate";
-inline constexpr std::string_view kCurrencyUpdateDateKey = "CurrencyUpdateDate";
-inline constexpr std::string_view kNeverUpdated = "NEVER";
+inline constexpr char kCurrencyUpdateTimeAndDateKey[] = "CurrencyUpdateTimeAndDate";
+inline constexpr char kCurrencyUpdateDateKey[] = "CurrencyUpdateDate";
+inline constexpr char kNeverUpdated[] = "NEVER";
 
 // The rates from the store, each key's default being the table's rate. `Store` is
 // anything with GetStringValue(key, fallback, encrypted), such as PrefsModule.
