@@ -41,7 +41,7 @@ TEST(ConversionArithmetic, WorkedExamplesToTheLastBit) {
 
 TEST(ConversionArithmetic, TemperatureFormulasStepByStep) {
   const CurrencyRates rates;
-  for (double x : {-40.0, 0.1, 98.6, 451.0, -273.16}) {
+  for (double x : {-40.0, 0.1, 1.1, 98.6, 212.5, 451.0, -273.16}) {
     SCOPED_TRACE(x);
     const double from_f = ((x - 32.0) * 5.0) / 9.0;
     EXPECT_EQ(Convert(7, 1, 0, x, rates).answer, from_f);

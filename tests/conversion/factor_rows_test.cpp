@@ -185,7 +185,9 @@ double Step(double x, const std::string& factor) {
   return factor == "none" ? x : x * std::strtod(factor.c_str(), nullptr);
 }
 
-void PrintTo(const Category& c, std::ostream* os) { *os << c.label; }
+void PrintTo(const Category& c, std::ostream* os) {
+  *os << c.label;
+}
 
 class FactorRowsTest : public testing::TestWithParam<Category> {};
 
