@@ -4,6 +4,7 @@
 namespace tessarine {
 
 namespace {
+// clang-format off
 constexpr UnitRow kRows[] = {
     {"Acres", 4046.856, 0.0002471054},
     {"Hectares", 10000.0, 0.0001},
@@ -16,6 +17,7 @@ constexpr UnitRow kRows[] = {
     {"Square Yards", 0.83612736, 1.19599},
     {"Square Miles", 2590000.0, 3.861004e-07},
 };
+// clang-format on
 }  // namespace
 
 std::span<const UnitRow> AreaUnits() {

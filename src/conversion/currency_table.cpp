@@ -7,6 +7,7 @@
 namespace tessarine {
 
 namespace {
+// clang-format off
 constexpr CurrencyRow kRows[] = {
     {"Euro", "1.2219"},
     {"Japanese yen", "110.1"},
@@ -56,6 +57,7 @@ constexpr CurrencyRow kRows[] = {
     {"U.A.E. dirham", "3.6725"},
     {"Venezuelan bolivar", "1915.2"},
 };
+// clang-format on
 static_assert(std::size(kRows) == kCurrencyCount);
 }  // namespace
 

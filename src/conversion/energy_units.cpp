@@ -5,6 +5,7 @@
 namespace tessarine {
 
 namespace {
+// clang-format off
 constexpr UnitRow kRows[] = {
     {"Joules", kNone, kNone},
     {"Kilojoules", 1000.0, 0.001},
@@ -22,6 +23,7 @@ constexpr UnitRow kRows[] = {
     {"BTU", 1055.056, 0.0009478169879134378},
     {"Foot Pounds", 1.355818, 0.7375621211696556},
 };
+// clang-format on
 }  // namespace
 
 std::span<const UnitRow> EnergyUnits() {

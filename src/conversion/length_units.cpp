@@ -4,6 +4,7 @@
 namespace tessarine {
 
 namespace {
+// clang-format off
 constexpr UnitRow kRows[] = {
     {"Millimeters", 0.001, 1000.0},
     {"Centimeters", 0.01, 100.0},
@@ -20,6 +21,7 @@ constexpr UnitRow kRows[] = {
     {"Light Years", 9458000000000000.0, 1.057305984351871e-16},
     {"Astronomical Units", 149613400000.0, 6.68389328762952e-12},
 };
+// clang-format on
 }  // namespace
 
 std::span<const UnitRow> LengthUnits() {

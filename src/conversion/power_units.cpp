@@ -4,6 +4,7 @@
 namespace tessarine {
 
 namespace {
+// clang-format off
 constexpr UnitRow kRows[] = {
     {"Watts", kNone, kNone},
     {"Kilowatts", 1000.0, 0.001},
@@ -13,6 +14,7 @@ constexpr UnitRow kRows[] = {
     {"Calories/Sec", 4.186746, 0.238849},
     {"Kilocalories/Sec", 4186.746, 0.000238849},
 };
+// clang-format on
 }  // namespace
 
 std::span<const UnitRow> PowerUnits() {

@@ -4,6 +4,7 @@
 namespace tessarine {
 
 namespace {
+// clang-format off
 constexpr UnitRow kRows[] = {
     {"Pascal", 0.001, 1000.0},
     {"Kilopascal", kNone, kNone},
@@ -21,6 +22,7 @@ constexpr UnitRow kRows[] = {
     {"Pounds/Square Foot", 0.0478813, 20.88498014882637},
     {"Atmospheres", 101.325027, 0.009869230037313485},
 };
+// clang-format on
 }  // namespace
 
 std::span<const UnitRow> PressureUnits() {

@@ -5,6 +5,7 @@
 namespace tessarine {
 
 namespace {
+// clang-format off
 constexpr UnitRow kRows[] = {
     {"Picoseconds", 1e-10, 10000000000.0},
     {"Nanoseconds", 1e-08, 100000000.0},
@@ -19,6 +20,7 @@ constexpr UnitRow kRows[] = {
     {"Decades", 315360000.0, 3.170979198376459e-09},
     {"Centuries", 3153600000.0, 3.170979198376459e-10},
 };
+// clang-format on
 }  // namespace
 
 std::span<const UnitRow> TimeUnits() {

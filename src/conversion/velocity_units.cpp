@@ -5,6 +5,7 @@
 namespace tessarine {
 
 namespace {
+// clang-format off
 constexpr UnitRow kRows[] = {
     {"Meters/Second", kNone, kNone},
     {"Meters/Minute", 0.01666666666666667, 60.0},
@@ -22,6 +23,7 @@ constexpr UnitRow kRows[] = {
     {"Mach (Speed of Sound)", 295.4927055555555, 0.00338417829340288},
     {"Light Speed", 299792458.0, 3.33564095198152e-09},
 };
+// clang-format on
 }  // namespace
 
 std::span<const UnitRow> VelocityUnits() {

@@ -5,6 +5,7 @@
 namespace tessarine {
 
 namespace {
+// clang-format off
 constexpr UnitRow kRows[] = {
     {"Milliliters", kNone, kNone},
     {"Liters", 1000.0, 0.001},
@@ -29,6 +30,7 @@ constexpr UnitRow kRows[] = {
     {"Imperial Tablespoons", 14.79, 0.0676132521974307},
     {"Imperial Cups", 236.584, 0.004226828526020357},
 };
+// clang-format on
 }  // namespace
 
 std::span<const UnitRow> VolumeUnits() {

@@ -21,6 +21,7 @@ struct CurrencyText {
   const char* rate;
 };
 
+// clang-format off
 const CurrencyText kCurrencies[] = {
     {"Euro", "1.2219"},
     {"Japanese yen", "110.1"},
@@ -70,6 +71,7 @@ const CurrencyText kCurrencies[] = {
     {"U.A.E. dirham", "3.6725"},
     {"Venezuelan bolivar", "1915.2"},
 };
+// clang-format on
 
 constexpr int kYen = 1, kDollar = 3, kPeso = 4, kEuro = 0;
 
