@@ -103,6 +103,9 @@ TEST(Catalogue, CategoriesAndTheirSizes) {
     EXPECT_EQ(UnitNames(i).size(), kSizes[i]) << kNames[i];
     EXPECT_EQ(ShowsCurrencyUpdateInfo(i), i == 1) << kNames[i];
   }
+  EXPECT_STREQ(kConvertCategoryKey, "ConvertCategoryPopUpSetting");
+  EXPECT_STREQ(kConvertFromKey, "ConvertFromPopUpSetting");
+  EXPECT_STREQ(kConvertToKey, "ConvertToPopUpSetting");
   EXPECT_TRUE(UnitNames(11).empty());
   EXPECT_TRUE(UnitNames(-1).empty());
   EXPECT_EQ(UnitNames(7), (std::vector<std::string>{"Celsius", "Fahrenheit", "Kelvin"}));
