@@ -1,0 +1,182 @@
+// The currency list, its default rates, conversions through rate texts, and the rates'
+// place in the preferences file.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "conversion/catalogue.hpp"
+#include "conversion/conversion.hpp"
+#include "conversion/currency_table.hpp"
+#include "runtime/exceptions.hpp"
+
+namespace tessarine {
+namespace {
+
+struct CurrencyText {
+  const char* name;
+  const char* rate;
+};
+
+// clang-format off
+const CurrencyText kCurrencies[] = {
+    {"Euro", "1.2219"},
+    {"Japanese yen", "110.1"},
+    {"Pound sterling", "0.5594719"},
+    {"U.S. dollar", "1.0"},
+    {"Argentine peso", "---"},
+    {"Australian dollar", "1.452222"},
+    {"Bahrain dinar", "0.376"},
+    {"Botswana pula", "4.820439"},
+    {"Brazilian real", "2.902"},
+    {"Brunei dollar", "1.6989"},
+    {"Canadian dollar", "1.2877"},
+    {"Chilean peso", "617.67"},
+    {"Chinese yuan", "8.2766"},
+    {"Colombian peso", "2523.08"},
+    {"Cyprus pound", "0.4726001"},
+    {"Czech koruna", "25.968"},
+    {"Danish krone", "6.086"},
+    {"Hungarian forint", "204.98"},
+    {"Icelandic krona", "72.03"},
+    {"Indian rupee", "46.27"},
+    {"Indonesian rupiah", "9290.0"},
+    {"Iranian rial", "8707.477161"},
+    {"Israeli new sheqel", "4.505"},
+    {"Korean won", "1146.7"},
+    {"Kuwaiti dinar", "0.30015"},
+    {"Malaysian ringgit", "3.8"},
+    {"Maltese lira", "0.3483592"},
+    {"Mauritian rupee", "28.4846"},
+    {"Mexican peso", "11.6005"},
+    {"Nepalese rupee", "74.945"},
+    {"New Zealand dollar", "1.531394"},
+    {"Norwegian krone", "6.8111"},
+    {"Omani rial", "0.38450"},
+    {"Pakistan rupee", "58.89845"},
+    {"Polish zloty", "3.6012"},
+    {"Qatar riyal", "3.640"},
+    {"Saudi Arabian riyal", "3.75"},
+    {"Singapore dollar", "1.6989"},
+    {"Slovenian tolar", "196.3775"},
+    {"South African rand", "6.68"},
+    {"Sri Lanka rupee", "102.9562"},
+    {"Swedish krona", "7.46"},
+    {"Swiss franc", "1.2611"},
+    {"Thai baht", "41.573"},
+    {"Trinidad & Tobago dollar", "6.257"},
+    {"U.A.E. dirham", "3.6725"},
+    {"Venezuelan bolivar", "1915.2"},
+};
+// clang-format on
+
+constexpr int kYen = 1, kDollar = 3, kPeso = 4, kEuro = 0;
+
+TEST(CurrencyTable, NamesAndDefaultRatesInRowOrder) {
+  const std::vector<std::string> names = UnitNames(kCurrencyCategory);
+  const CurrencyRates rates = DefaultCurrencyRates();
+  ASSERT_EQ(names.size(), std::size(kCurrencies));
+  for (int i = 0; i < kCurrencyCount; ++i) {
+    EXPECT_EQ(names[i], kCurrencies[i].name) << i;
+    EXPECT_EQ(rates(i), kCurrencies[i].rate) << i;
+  }
+}
+
+TEST(CurrencyTable, EveryDefaultRateToAndFromTheDollar) {
+  const CurrencyRates rates = DefaultCurrencyRates();
+  for (int i = 0; i < kCurrencyCount; ++i) {
+    if (i == kPeso) continue;
+    SCOPED_TRACE(kCurrencies[i].name);
+    const double rate = std::strtod(kCurrencies[i].rate, nullptr);
+    EXPECT_EQ(Convert(kCurrencyCategory, i, kDollar, 25.5, rates).answer, (25.5 / rate) * 1.0);
+    EXPECT_EQ(Convert(kCurrencyCategory, kDollar, i, 25.5, rates).answer, (25.5 / 1.0) * rate);
+  }
+}
+
+TEST(CurrencyConversion, DefaultRates) {
+  const CurrencyRates rates = DefaultCurrencyRates();
+  EXPECT_EQ(Convert(kCurrencyCategory, kYen, kDollar, 110.1, rates).answer, 1.0);
+  // The euro's rate is dollars per euro, yet it is divided by like the others.
+  EXPECT_EQ(Convert(kCurrencyCategory, kEuro, kYen, 3.7, rates).answer, (3.7 / 1.2219) * 110.1);
+}
+
+TEST(CurrencyConversion, UnavailableRates) {
+  CurrencyRates rates = DefaultCurrencyRates();
+  rates(kYen) = "--";
+  struct Case {
+    const char* name;
+    int from, to;
+  };
+  const Case kCases[] = {
+      {"default \"---\" as source", kPeso, kDollar},
+      {"default \"---\" as target", kDollar, kPeso},
+      {"\"--\" read from the file", kYen, kEuro},
+      {"unavailable source, target row not in the list", kPeso, -1},
+  };
+  for (const Case& c : kCases) {
+    SCOPED_TRACE(c.name);
+    EXPECT_EQ(Convert(kCurrencyCategory, c.from, c.to, 1.0, rates).status,
+              ConversionStatus::kRateUnavailable);
+  }
+  // The target's rate is looked at only after a good source rate.
+  EXPECT_THROW(Convert(kCurrencyCategory, kDollar, -1, 1.0, rates), OutOfBoundsException);
+  EXPECT_THROW(Convert(kCurrencyCategory, 47, kDollar, 1.0, rates), OutOfBoundsException);
+}
+
+TEST(CurrencyConversion, RateTextsReadLikeVal) {
+  CurrencyRates rates = DefaultCurrencyRates();
+  rates(kYen) = "1.25      ";  // ten characters, trailing blanks kept
+  rates(kEuro) = "0";
+  EXPECT_EQ(rates(kYen).size(), 10u);
+  EXPECT_EQ(Convert(kCurrencyCategory, kDollar, kYen, 4.0, rates).answer, 5.0);
+  EXPECT_EQ(Convert(kCurrencyCategory, kYen, kDollar, 5.0, rates).answer, 4.0);
+  EXPECT_EQ(Convert(kCurrencyCategory, kEuro, kDollar, 1.0, rates).answer, HUGE_VAL);
+}
+
+// A store of string keys that records how each key was asked for.
+struct FakeStore {
+  std::map<std::string, std::string> values;
+  std::vector<std::string> asked;
+  bool all_encrypted = true;
+  std::string GetStringValue(const std::string& key, const std::string& fallback, bool enc) {
+    asked.push_back(key);
+    all_encrypted = all_encrypted && enc;
+    auto it = values.find(key);
+    return it == values.end() ? fallback : it->second;
+  }
+  void SetStringValue(const std::string& key, const std::string& value, bool enc) {
+    all_encrypted = all_encrypted && enc;
+    values[key] = value;
+  }
+};
+
+TEST(CurrencyPreferences, KeysDefaultsAndStoredTexts) {
+  EXPECT_EQ(CurrencyRateKey(0), "CurrencyRate0");
+  EXPECT_EQ(CurrencyRateKey(46), "CurrencyRate46");
+  EXPECT_STREQ(kCurrencyUpdateTimeAndDateKey, "CurrencyUpdateTimeAndDate");
+  EXPECT_STREQ(kCurrencyUpdateDateKey, "CurrencyUpdateDate");
+  EXPECT_STREQ(kNeverUpdated, "NEVER");
+
+  FakeStore store;
+  store.values["CurrencyRate2"] = "--";
+  store.values["CurrencyRate9"] = "1.7       ";
+  const CurrencyRates rates = ReadCurrencyRates(store);
+  ASSERT_EQ(store.asked.size(), 47u);
+  EXPECT_EQ(store.asked.front(), "CurrencyRate0");
+  EXPECT_EQ(store.asked.back(), "CurrencyRate46");
+  EXPECT_EQ(rates(2), "--");
+  EXPECT_EQ(rates(9), "1.7       ");
+  EXPECT_EQ(rates(kYen), "110.1");
+
+  FakeStore out;
+  WriteCurrencyRates(out, rates);
+  EXPECT_EQ(out.values.size(), 47u);
+  EXPECT_EQ(out.values["CurrencyRate9"], "1.7       ");
+  EXPECT_TRUE(store.all_encrypted && out.all_encrypted);
+}
+
+}  // namespace
+}  // namespace tessarine
