@@ -25,6 +25,8 @@ struct ReferenceCase {
   double p;
   double tolerance;  // relative, on F; three times that on p, which magnifies its error
   const char* label;
+  // F to the last bit, from the same order of 32-bit roundings restated in numpy float32.
+  float exact_f;
 };
 
 // Unpaired, the 32-bit sums keep F and p to about seven digits, unequal sizes
@@ -40,28 +42,32 @@ TEST(TTest, AgreesWithScipyWhereTheSumsAllowIt) {
        8.5783783783783516,
        0.01903054636281306,
        1e-6,
-       "t (8) = 2.929, p = 0.0190"},
+       "t (8) = 2.929, p = 0.0190",
+       0x1.128218p+3f},
       {"pooled_quarters",
        {{12.5, 14.25, 11.0, 13.75, 15.5, 12.0}, {10.5, 9.75, 12.25, 11.0, 10.0, 9.5}},
        true,
        11.479820627802683,
        0.0069068407292817765,
        1e-6,
-       "t (10) = 3.388, p = 0.0069"},
+       "t (10) = 3.388, p = 0.0069",
+       0x1.6f5ab8p+3f},
       {"pooled_unequal_sizes",
        {{1, 2, 3, 4}, {3, 5, 7}},
        true,
        4.1208791208791204,
        0.098111821255730064,
        1e-6,
-       "t (5) = 2.030, p = 0.0981"},
+       "t (5) = 2.030, p = 0.0981",
+       0x1.07bc7cp+2f},
       {"paired_seven",
        {{72, 68, 75, 80, 66, 71, 77}, {70, 65, 74, 76, 66, 68, 75}},
        false,
        17.763157894736842,
        0.005594361924209367,
        1e-3,
-       "t (6) = 4.214, p = 0.0056"},
+       "t (6) = 4.214, p = 0.0056",
+       0x1.1c21e2p+4f},
       {"paired_ten",
        {{5.1, 4.8, 6.2, 5.9, 5.0, 6.4, 5.5, 4.9, 6.1, 5.7},
         {5.6, 5.0, 6.0, 6.5, 5.4, 6.9, 5.8, 5.3, 6.6, 5.9}},
@@ -69,7 +75,8 @@ TEST(TTest, AgreesWithScipyWhereTheSumsAllowIt) {
        21.495867768595037,
        0.0012255637610538192,
        1e-3,
-       "t (9) = 4.636, p = 0.0012"},
+       "t (9) = 4.636, p = 0.0012",
+       0x1.57ce6ep+4f},
   };
   for (const auto& c : cases) {
     Alerts alerts;
@@ -78,6 +85,7 @@ TEST(TTest, AgreesWithScipyWhereTheSumsAllowIt) {
     EXPECT_NEAR(outcome.f, c.f, c.f * c.tolerance) << c.name;
     EXPECT_NEAR(outcome.p, c.p, 3 * c.p * c.tolerance) << c.name;
     EXPECT_EQ(TTestResultText(outcome, "."), c.label) << c.name;
+    EXPECT_EQ(outcome.f, c.exact_f) << c.name;
     EXPECT_TRUE(alerts.seen.empty()) << c.name;
   }
   // The 32-bit error term of the paired test is visibly off the textbook value.
