@@ -69,5 +69,90 @@ TEST(FProbability, AgreesWithScipyToAboutSevenDigits) {
   }
 }
 
+struct PinnedCase {
+  double dfn, dfd, f;
+  double p;
+};
+
+// To the last bit, as the same routines restated in Python's IEEE doubles (glibc's
+// log and exp) give them. A fused multiply-add in the continued fraction or the
+// series moves these bits.
+TEST(FProbability, PinnedToTheLastBit) {
+  const PinnedCase cases[] = {
+      {1, 1, 1, 0x1.000000049d6fcp-1},      {1, 4, 1.5, 0x1.26c5db1174c0cp-2},
+      {2, 6, 3, 0x1.0000000009210p-3},      {3.5, 17.25, 2.2, 0x1.e3252ab54ce5bp-4},
+      {10, 40, 0.25, 0x1.fa052db45a134p-1}, {24, 120, 3.5, 0x1.894e3fc732b19p-19},
+      {5, 7, 1.0, 0x1.ecd84fb67c824p-2},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(Probability(c.dfn, c.dfd, c.f, {}), c.p) << c.dfn << "," << c.dfd << " at " << c.f;
+  }
+}
+
+TEST(FProbability, EdgesAndAlerts) {
+  Alerts alerts;
+  EXPECT_EQ(Probability(3, 9, 0.0, alerts.Box()), 1.0);  // x is 1: no series, exactly 1
+  EXPECT_EQ(Probability(2, 5, 1e300 * 1e10, alerts.Box()), 0.0);
+  EXPECT_TRUE(alerts.seen.empty());
+  // Both report and go on with a number.
+  EXPECT_TRUE(std::isnan(betaI(2, 3, 1.5, alerts.Box())));
+  EXPECT_NEAR(Probability(2e5, 2e5, 1.0, alerts.Box()), 0.5, 2e-4);
+  EXPECT_EQ(alerts.seen,
+            (std::vector<std::string>{"BetaI Error:  bad x parameter",
+                                      "BETACF Error: imax is too small or a & b are too large"}));
+}
+
+struct ProbabilityTextCase {
+  double p;
+  const char* separator;
+  const char* text;
+};
+
+TEST(ProbabilityCalculator, OutputText) {
+  const ProbabilityTextCase cases[] = {
+      {0.5000000005372551, ".", "p = 0.50000000"},
+      {1.0, ",", "p = 1,00000000"},
+      {1.7e-8, ".", "p = 0.00000002"},
+      {1e-08, ".", "p < 0.00000001"},
+      {6e-11, ",", "p < 0.00000001"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(ProbabilityText(c.p, c.separator), c.text) << c.p;
+}
+
+TEST(ProbabilityCalculator, CalculateEnabled) {
+  EXPECT_TRUE(CalculateEnabled("", "1", "1"));  // an empty F reads 0
+  EXPECT_TRUE(CalculateEnabled("2.5", "0.5", "3"));
+  EXPECT_FALSE(CalculateEnabled("1", "0", "3"));
+  EXPECT_FALSE(CalculateEnabled("1", "3", ""));
+  EXPECT_FALSE(CalculateEnabled("-1", "3", "3"));
+}
+
+TEST(ProbabilityCalculator, FieldsInNormalFormAndEpsilon) {
+  const UnadjustedOutcome plain = CalculateUnadjusted("1.50", " 1", "4.", ".", {});
+  EXPECT_FALSE(plain.input_error);
+  EXPECT_EQ(plain.f_text, "1.5");
+  EXPECT_EQ(plain.dfn_text, "1");
+  EXPECT_EQ(plain.dfd_text, "4");
+  EXPECT_EQ(plain.output_text, "p = 0.28786413");
+  const AdjustedOutcome same = CalculateAdjusted(plain, "1", ".", {});
+  EXPECT_EQ(same.output_text, plain.output_text);
+  const AdjustedOutcome half = CalculateAdjusted(plain, "0.5", ".", {});
+  EXPECT_EQ(half.epsilon_text, "0.5");
+  EXPECT_EQ(half.output_text, ProbabilityText(Probability(0.5, 2, 1.5, {}), "."));
+  EXPECT_TRUE(CalculateAdjusted(plain, "1.5", ".", {}).epsilon_error);
+  EXPECT_TRUE(CalculateAdjusted(plain, "1e-16", ".", {}).epsilon_error);
+  EXPECT_FALSE(CalculateAdjusted(plain, "1e-15", ".", {}).epsilon_error);
+}
+
+// Invalid inputs still reach the adjusted part, which computes from them.
+TEST(ProbabilityCalculator, NoEarlyExitAfterAnInputError) {
+  const UnadjustedOutcome bad = CalculateUnadjusted("1", "0", "4", ".", {});
+  EXPECT_TRUE(bad.input_error);
+  EXPECT_EQ(bad.output_text, "");
+  const AdjustedOutcome adjusted = CalculateAdjusted(bad, "0.5", ".", {});
+  EXPECT_FALSE(adjusted.epsilon_error);
+  EXPECT_EQ(adjusted.output_text, "p < 0.00000001");  // a not-a-number is not above 1e-08
+}
+
 }  // namespace
 }  // namespace tessarine::statistics
