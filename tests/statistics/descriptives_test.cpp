@@ -101,12 +101,6 @@ TEST(Descriptives, TheTwoPopupsAreNotLinked) {
                    "SEM=0.5773502691896258"}));
 }
 
-TEST(Descriptives, MedianOfEvenAndOddCounts) {
-  EXPECT_EQ(CalculateMinMaxMed(StoreOf({{5, 1, 4, 2}}), 1).med, 3.0f);
-  EXPECT_EQ(CalculateMinMaxMed(StoreOf({{5, 1, 4}}), 1).med, 4.0f);
-  EXPECT_EQ(CalculateMinMaxMed(StoreOf({{2, 2, 1, 2}}), 1).med, 2.0f);
-}
-
 TEST(Descriptives, SortHoldsAFullSample) {
   SampleStore store;
   for (int i = 255; i >= 1; --i) store.Input(1, std::to_string(i));
