@@ -26,6 +26,7 @@ enum class AnovaError {
   kRepeatedSizesDiffer,  // repeated measures, and the sizes differ
 };
 
+// What one press on Calculate gives: an error, or the figures to show.
 struct AnovaOutcome {
   AnovaError error = AnovaError::kNone;
   // Valid only without an error.

@@ -14,6 +14,7 @@ bool NumberFieldSwallowsKey(std::string_view key);
 // The sheets that ShowComputationButton opens from ComputePopUp.
 enum class StatsSheet { kNone, kDescriptives, kAnova, kTTest };
 
+// The sheet a press on Show opens, and the word spoken for it.
 struct ComputationChoice {
   StatsSheet sheet = StatsSheet::kNone;
   // Spelt for the speech engine; empty for kNone, which plays no sound either.

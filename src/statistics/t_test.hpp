@@ -27,6 +27,7 @@ enum class TTestError {
   kPairedSizesDiffer,  // paired, and the two sizes differ
 };
 
+// What one press on Calculate gives: an error, or the figures to show.
 struct TTestOutcome {
   TTestError error = TTestError::kNone;
   // Valid only without an error. t is Sqrt(f); the sign of the difference is lost.

@@ -15,6 +15,7 @@ using Selection = BoundedArray<std::int32_t, 0, 10>;
 // Walks boxes 0 to 9 and returns K, the number ticked; box i is sample i + 1.
 int SelectTicked(const std::array<bool, 10>& ticked, Selection& sel);
 
+// The F ratio with its degrees of freedom.
 struct FRatio {
   std::int32_t dfa = 0;  // between, K - 1
   float dfe = 0.0f;      // error

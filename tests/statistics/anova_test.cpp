@@ -16,6 +16,7 @@ AnovaChoice Choice(int samples, bool between) {
   return choice;
 }
 
+// Figures recorded by reference_figures.py.
 struct ReferenceCase {
   const char* name;
   bool between;

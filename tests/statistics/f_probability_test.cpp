@@ -16,7 +16,8 @@ struct FTailRow {
   double p[3];  // at F = 0.25, 1.0, 3.5
 };
 
-// The upper tail from scipy 1.10.1 (Debian python3-scipy 1.10.1-2), scipy.stats.f.sf(F, dfn, dfd).
+// Recorded by reference_figures.py. The upper tail from scipy 1.10.1 (Debian
+// python3-scipy 1.10.1-2), scipy.stats.f.sf(F, dfn, dfd).
 const FTailRow kScipyFTail[] = {
     {1, 1, {0.70483276469913336, 0.50000000000000011, 0.31250561891173018}},
     {1, 7, {0.63240713568928442, 0.35061666282020737, 0.10355171027145917}},
