@@ -25,7 +25,9 @@ bool ValidateOperand(std::string_view whole, std::string& numtop, std::string_vi
   return w < 0 || t < 0;
 }
 
-std::int32_t Magnitude(std::string_view text) { return ToInt32(Abs(Val(text))); }
+std::int32_t Magnitude(std::string_view text) {
+  return ToInt32(Abs(Val(text)));
+}
 
 // The whole part taken out of a top above its bottom, with the remainder.
 struct WholeSplit {
@@ -50,9 +52,8 @@ void MoveSignToTop(FractionCalculatorFields& f, bool signs_differ) {
   if (signs_differ) f.ResultNumTop = Str(Val(f.ResultNumTop) * -1.0);
 }
 
-void AddOrSubtract(FractionCalculatorFields& f, std::int32_t n1, std::int32_t b1,
-                   std::int32_t n2, std::int32_t b2, bool negative1, bool negative2,
-                   bool subtract) {
+void AddOrSubtract(FractionCalculatorFields& f, std::int32_t n1, std::int32_t b1, std::int32_t n2,
+                   std::int32_t b2, bool negative1, bool negative2, bool subtract) {
   std::int32_t p = WrapMul(n1, b2);
   std::int32_t q = WrapMul(n2, b1);
   if (negative1) p = WrapNeg(p);

@@ -53,6 +53,7 @@ void RunRows(const std::vector<Row>& rows) {
 }
 
 TEST(FractionCalculatorTest, WorkedExamples) {
+  // clang-format off
   RunRows({
       {"1/2 + 1/2 is 1 over 1", "+", {"", "1", "2", "", "1", "2"},
        {"", "1", "2", "", "1", "2", "", "1", "1"}, 0},
@@ -79,9 +80,11 @@ TEST(FractionCalculatorTest, WorkedExamples) {
       {"50000 x 50000 wraps", "x", {"", "50000", "1", "", "50000", "1"},
        {"", "50000", "1", "", "50000", "1", "1794967296", "", ""}, 0},
   });
+  // clang-format on
 }
 
 TEST(FractionCalculatorTest, SignsInEveryPosition) {
+  // clang-format off
   RunRows({
       {"1/2 - 1/3", kMinus, {"", "1", "2", "", "1", "3"},
        {"", "1", "2", "", "1", "3", "", "1", "6"}, 0},
@@ -112,9 +115,11 @@ TEST(FractionCalculatorTest, SignsInEveryPosition) {
       {"a minus that cuts to zero counts as none", "+", {"-0.5", "1", "2", "", "1", "2"},
        {"-0.5", "1", "2", "", "1", "2", "", "1", "1"}, 0},
   });
+  // clang-format on
 }
 
 TEST(FractionCalculatorTest, DenominatorsAndOperatorsOutOfTheWay) {
+  // clang-format off
   RunRows({
       {"a bottom of 0.5 skips the calculation", "+", {"", "1", "0.5", "", "1", "2"},
        {"", "1", "0.5", "", "1", "2", "", "", ""}, 0},
@@ -127,9 +132,11 @@ TEST(FractionCalculatorTest, DenominatorsAndOperatorsOutOfTheWay) {
       {"the letter X is the times row", "X", {"", "1", "2", "", "1", "2"},
        {"", "1", "2", "", "1", "2", "", "1", "4"}, 0},
   });
+  // clang-format on
 }
 
 TEST(FractionCalculatorTest, WrapsNear2To31) {
+  // clang-format off
   RunRows({
       {"2147483647 + 1 wraps to the lowest integer", "+", {"2147483647", "", "", "1", "", ""},
        {"2147483647", "0", "1", "1", "", "1", "-2147483647", "", ""}, 0},
@@ -142,6 +149,7 @@ TEST(FractionCalculatorTest, WrapsNear2To31) {
       {"a bottom that wraps to -1", "+", {"", "1", "3", "", "1", "1431655765"},
        {"", "1", "3", "", "1", "1431655765", "-1431655768", "", ""}, 0},
   });
+  // clang-format on
 }
 
 TEST(FractionCalculatorTest, ClearEmptiesTheNineFieldsWithASound) {

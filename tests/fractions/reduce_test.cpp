@@ -30,7 +30,9 @@ void ExpectSameAsLoop(const TextPair& pair) {
   EXPECT_EQ(fast_bottom, loop_bottom) << pair.top << " / " << pair.bottom;
 }
 
-std::string S(std::int64_t n) { return Str(static_cast<double>(n)); }
+std::string S(std::int64_t n) {
+  return Str(static_cast<double>(n));
+}
 
 TEST(ReduceTest, ReducesAsTheWindowShowsIt) {
   struct Row {
@@ -95,9 +97,14 @@ TEST(ReduceTest, MatchesTheLoopOffWholeNumbers) {
     const double bottom = g * (small(rng) % 50 + 1) + (n % 3 == 0 ? 0.0 : 0.5);
     ExpectSameAsLoop({Str(top), Str(bottom)});
   }
-  for (const TextPair& pair : std::vector<TextPair>{
-           {"1e10", "100000"}, {"1e300", "6"}, {"2147483647.5", "9"}, {"0.75", "12"},
-           {"-0.25", "18.75"}, {"4.5", "8"}, {"12,5", "30"}, {"7e-300", "49"}}) {
+  for (const TextPair& pair : std::vector<TextPair>{{"1e10", "100000"},
+                                                    {"1e300", "6"},
+                                                    {"2147483647.5", "9"},
+                                                    {"0.75", "12"},
+                                                    {"-0.25", "18.75"},
+                                                    {"4.5", "8"},
+                                                    {"12,5", "30"},
+                                                    {"7e-300", "49"}}) {
     ExpectSameAsLoop(pair);
   }
 }
@@ -105,8 +112,8 @@ TEST(ReduceTest, MatchesTheLoopOffWholeNumbers) {
 TEST(ReduceTest, MatchesTheLoopOnEdgeCases) {
   std::vector<TextPair> pairs;
   for (std::int64_t bottom : {0, 1, 2, 3, 4, -1, -2, -4}) {
-    for (std::int64_t top : std::vector<std::int64_t>{0, 1, 2, 4, -1, -2, -4, INT32_MAX, INT32_MIN,
-                                                        2147483648}) {
+    for (std::int64_t top :
+         std::vector<std::int64_t>{0, 1, 2, 4, -1, -2, -4, INT32_MAX, INT32_MIN, 2147483648}) {
       pairs.push_back({S(top), S(bottom)});
     }
   }
@@ -122,7 +129,8 @@ TEST(ReduceTest, MatchesTheLoopOnEdgeCases) {
       }
     }
   }
-  for (std::int64_t k = 1; k <= 30; ++k) pairs.push_back({S(std::int64_t{1} << (k % 17)), S(1 << 16)});
+  for (std::int64_t k = 1; k <= 30; ++k)
+    pairs.push_back({S(std::int64_t{1} << (k % 17)), S(1 << 16)});
   // A common factor that only the last rounds reach: twice or three times a prime.
   for (std::int64_t p : {65521, 99991, 131071}) {
     pairs.push_back({S(p), S(2 * p)});
