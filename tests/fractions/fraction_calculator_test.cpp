@@ -1,0 +1,173 @@
+#include "fractions/fraction_calculator.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tessarine {
+namespace {
+
+constexpr const char* kMinus = "\u2013";
+constexpr const char* kDivide = "\u00F7";
+
+// whole1, numtop1, numbottom1, whole2, numtop2, numbottom2 as typed.
+struct Operands {
+  std::string w1, t1, b1, w2, t2, b2;
+};
+
+struct Row {
+  const char* name;
+  const char* op;
+  Operands in;
+  FractionCalculatorFields out;  // all nine fields afterwards
+  int messages;
+  const char* separator = ".";
+};
+
+void Expect(const FractionCalculatorFields& got, const FractionCalculatorFields& want,
+            const char* name) {
+  EXPECT_EQ(got.whole1, want.whole1) << name;
+  EXPECT_EQ(got.numtop1, want.numtop1) << name;
+  EXPECT_EQ(got.numbottom1, want.numbottom1) << name;
+  EXPECT_EQ(got.whole2, want.whole2) << name;
+  EXPECT_EQ(got.numtop2, want.numtop2) << name;
+  EXPECT_EQ(got.numbottom2, want.numbottom2) << name;
+  EXPECT_EQ(got.ResultWhole, want.ResultWhole) << name;
+  EXPECT_EQ(got.ResultNumTop, want.ResultNumTop) << name;
+  EXPECT_EQ(got.ResultNumBottom, want.ResultNumBottom) << name;
+}
+
+void RunRows(const std::vector<Row>& rows) {
+  for (const Row& row : rows) {
+    const Operands& o = row.in;
+    FractionCalculatorFields fields{o.w1, o.t1, o.b1, o.w2, o.t2, o.b2, "stale", "stale", "stale"};
+    const FractionFeedback feedback = FractionCalculateButtonAction(fields, row.op, row.separator);
+    Expect(fields, row.out, row.name);
+    EXPECT_EQ(feedback.messages,
+              std::vector<std::string>(row.messages, std::string(kOneNegativeValueMessage)))
+        << row.name;
+    EXPECT_EQ(feedback.sounds, std::vector<FractionSound>{FractionSound::kPlayResultSound})
+        << row.name;
+  }
+}
+
+TEST(FractionCalculatorTest, WorkedExamples) {
+  // clang-format off
+  RunRows({
+      {"1/2 + 1/2 is 1 over 1", "+", {"", "1", "2", "", "1", "2"},
+       {"", "1", "2", "", "1", "2", "", "1", "1"}, 0},
+      {"1 1/2 + 1/2 is the whole part alone", "+", {"1", "1", "2", "", "1", "2"},
+       {"1", "1", "2", "", "1", "2", "2", "", ""}, 0},
+      {"1/3 + 2/3 is 9/9 reduced", "+", {"", "1", "3", "", "2", "3"},
+       {"", "1", "3", "", "2", "3", "", "1", "1"}, 0},
+      {"2/5 + 3/5 is 25/25 reduced", "+", {"", "2", "5", "", "3", "5"},
+       {"", "2", "5", "", "3", "5", "", "1", "1"}, 0},
+      {"1/5 + 4/5 is 25/25 reduced", "+", {"", "1", "5", "", "4", "5"},
+       {"", "1", "5", "", "4", "5", "", "1", "1"}, 0},
+      {"1/1 x 5/5 stays 5 over 5", "x", {"", "1", "1", "", "5", "5"},
+       {"", "1", "1", "", "5", "5", "", "5", "5"}, 0},
+      {"-1/2 + 1/4", "+", {"", "-1", "2", "", "1", "4"},
+       {"", "-1", "2", "", "1", "4", "", "-1", "4"}, 0},
+      {"-1 1/2 + nothing fills the bottom", "+", {"-1", "1", "2", "", "", ""},
+       {"-1", "1", "2", "", "", "1", "-1", "1", "2"}, 0},
+      {"-1 -1/2 is reported and taken as -1 1/2", "+", {"-1", "-1", "2", "", "", ""},
+       {"-1", "1", "2", "", "", "1", "-1", "1", "2"}, 1},
+      {"0 + 0 with every field empty", "+", {"", "", "", "", "", ""},
+       {"", "0", "1", "", "", "1", "", "", ""}, 0},
+      {"1/2 / 0/1 is not rejected", kDivide, {"", "1", "2", "", "0", "1"},
+       {"", "1", "2", "", "0", "1", "2147483647", "1", "0"}, 0},
+      {"50000 x 50000 wraps", "x", {"", "50000", "1", "", "50000", "1"},
+       {"", "50000", "1", "", "50000", "1", "1794967296", "", ""}, 0},
+  });
+  // clang-format on
+}
+
+TEST(FractionCalculatorTest, SignsInEveryPosition) {
+  // clang-format off
+  RunRows({
+      {"1/2 - 1/3", kMinus, {"", "1", "2", "", "1", "3"},
+       {"", "1", "2", "", "1", "3", "", "1", "6"}, 0},
+      {"1/3 - 1/2 goes below zero", kMinus, {"", "1", "3", "", "1", "2"},
+       {"", "1", "3", "", "1", "2", "", "-1", "6"}, 0},
+      {"-1/2 - -1/3", kMinus, {"", "-1", "2", "", "-1", "3"},
+       {"", "-1", "2", "", "-1", "3", "", "-1", "6"}, 0},
+      {"1/2 - -1/3", kMinus, {"", "1", "2", "", "-1", "3"},
+       {"", "1", "2", "", "-1", "3", "", "5", "6"}, 0},
+      {"1/2 + -1 1/2 by the second whole part", "+", {"", "1", "2", "-1", "1", "2"},
+       {"", "1", "2", "-1", "1", "2", "", "-1", "1"}, 0},
+      {"a minus on a bottom is ignored", "+", {"", "1", "-2", "", "1", "2"},
+       {"", "1", "-2", "", "1", "2", "", "1", "1"}, 0},
+      {"-1/2 x 1/3 puts the sign on the top", "x", {"", "-1", "2", "", "1", "3"},
+       {"", "-1", "2", "", "1", "3", "", "-1", "6"}, 0},
+      {"-2 1/2 x 3 puts it on the whole part", "x", {"-2", "1", "2", "3", "", ""},
+       {"-2", "1", "2", "3", "", "1", "-7", "1", "2"}, 0},
+      {"-1/2 x -1/3", "x", {"", "-1", "2", "", "-1", "3"},
+       {"", "-1", "2", "", "-1", "3", "", "1", "6"}, 0},
+      {"1/2 / 1/3", kDivide, {"", "1", "2", "", "1", "3"},
+       {"", "1", "2", "", "1", "3", "1", "1", "2"}, 0},
+      {"-1/2 / 1/3", kDivide, {"", "-1", "2", "", "1", "3"},
+       {"", "-1", "2", "", "1", "3", "-1", "1", "2"}, 0},
+      {"1/3 / -1/2 has no whole part", kDivide, {"", "1", "3", "", "-1", "2"},
+       {"", "1", "3", "", "-1", "2", "", "-2", "3"}, 0},
+      {"two double minuses, two messages", "+", {"-1", "-1", "2", "-2", "-1", "3"},
+       {"-1", "1", "2", "-2", "1", "3", "-3", "5", "6"}, 2},
+      {"a minus that cuts to zero counts as none", "+", {"-0.5", "1", "2", "", "1", "2"},
+       {"-0.5", "1", "2", "", "1", "2", "", "1", "1"}, 0},
+  });
+  // clang-format on
+}
+
+TEST(FractionCalculatorTest, DenominatorsAndOperatorsOutOfTheWay) {
+  // clang-format off
+  RunRows({
+      {"a bottom of 0.5 skips the calculation", "+", {"", "1", "0.5", "", "1", "2"},
+       {"", "1", "0.5", "", "1", "2", "", "", ""}, 0},
+      {"zero bottoms become 1", "x", {"", "3", "0", "", "2", "0"},
+       {"", "3", "1", "", "2", "1", "6", "", ""}, 0},
+      {"a comma system reads 0,5 as no zero", "+", {"", "1", "0,5", "", "1", "2"},
+       {"", "1", "0,5", "", "1", "2", "", "", ""}, 0, ","},
+      {"a hyphen is no operator", "-", {"", "1", "2", "", "1", "2"},
+       {"", "1", "2", "", "1", "2", "", "", ""}, 0},
+      {"the letter X is the times row", "X", {"", "1", "2", "", "1", "2"},
+       {"", "1", "2", "", "1", "2", "", "1", "4"}, 0},
+  });
+  // clang-format on
+}
+
+TEST(FractionCalculatorTest, WrapsNear2To31) {
+  // clang-format off
+  RunRows({
+      {"2147483647 + 1 wraps to the lowest integer", "+", {"2147483647", "", "", "1", "", ""},
+       {"2147483647", "0", "1", "1", "", "1", "-2147483647", "", ""}, 0},
+      {"2147483647 x 2 wraps to -2", "x", {"2147483647", "", "", "2", "", ""},
+       {"2147483647", "0", "1", "2", "", "1", "2", "", ""}, 0},
+      {"negating the lowest integer gives it back", "+", {"-1", "-2147483648", "1", "", "", ""},
+       {"-1", "-2147483648", "1", "", "", "1", "-2147483647", "", ""}, 1},
+      {"a bottom that wraps to 0", "+", {"", "1", "65536", "", "1", "65536"},
+       {"", "1", "65536", "", "1", "65536", "2147483647", "131072", "0"}, 0},
+      {"a bottom that wraps to -1", "+", {"", "1", "3", "", "1", "1431655765"},
+       {"", "1", "3", "", "1", "1431655765", "-1431655768", "", ""}, 0},
+  });
+  // clang-format on
+}
+
+TEST(FractionCalculatorTest, ClearEmptiesTheNineFieldsWithASound) {
+  FractionCalculatorFields f{"1", "2", "3", "4", "5", "6", "7", "8", "9"};
+  const FractionFeedback feedback = FractionClearButtonAction(f);
+  Expect(f, {}, "clear");
+  EXPECT_TRUE(feedback.messages.empty());
+  EXPECT_EQ(feedback.sounds, std::vector<FractionSound>{FractionSound::kPlayClearSound});
+}
+
+TEST(FractionCalculatorTest, TransferMovesAResultOnly) {
+  FractionCalculatorFields f{"1", "2", "3", "4", "5", "6", "-7", "", ""};
+  EXPECT_TRUE(TransferFractionResultToInput(f));
+  Expect(f, {"-7", "", "", "", "", "", "", "", ""}, "transfer");
+  FractionCalculatorFields empty{"1", "2", "3", "4", "5", "6", "", "", ""};
+  EXPECT_FALSE(TransferFractionResultToInput(empty));
+  Expect(empty, {"1", "2", "3", "4", "5", "6", "", "", ""}, "nothing to transfer");
+}
+
+}  // namespace
+}  // namespace tessarine
