@@ -10,26 +10,6 @@
 
 namespace tessarine::expression {
 
-const char* CompileErrorText(CompileErrorKind kind) {
-  switch (kind) {
-    case CompileErrorKind::kSyntax:
-      return "Syntax error";
-    case CompileErrorKind::kUnknownName:
-      return "This name is not known";
-    case CompileErrorKind::kInvalidCharacter:
-      return "This character is not allowed here";
-    case CompileErrorKind::kArgumentCount:
-      return "Wrong number of arguments";
-    case CompileErrorKind::kTypeMismatch:
-      return "Type mismatch";
-    case CompileErrorKind::kUnfinished:
-      return "The line ends too soon";
-    case CompileErrorKind::kExtraParenthesis:
-      return "This parenthesis closes nothing";
-  }
-  return "Syntax error";
-}
-
 namespace {
 
 enum class Type : std::uint8_t { kNumber, kText };
@@ -68,6 +48,7 @@ bool IsKeyword(std::string_view name, std::string_view keyword) {
   return name.size() == keyword.size() && StrEq(name, keyword);
 }
 
+// One pass over the tokens of a source, emitting code as soon as an operator is complete.
 class Parser {
  public:
   Parser(std::string_view source, Program& program)

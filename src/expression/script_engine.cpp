@@ -27,8 +27,10 @@ void ScriptEngine::Run() {
       CompilerError(error.line, error.column, expression::CompileErrorText(error.kind));
     return;
   }
+  // Copies, so that a handler may replace the program or the Print event while it runs.
   const std::shared_ptr<const expression::Program> program = program_;
-  if (const auto fault = expression::Execute(*program, Print)) {
+  const auto print = Print;
+  if (const auto fault = expression::Execute(*program, print)) {
     if (RuntimeError) RuntimeError(fault->line, DivisionByZeroException(fault->message));
   }
 }

@@ -1,6 +1,7 @@
 // Fuzz target of the script engine: any bytes, run as a whole source and as text typed
 // into the tab, end in prints, a compile error or a runtime error, never a crash, and
 // a compile error raises nothing else. A source that compiles prints each line at most once.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -27,6 +28,10 @@ void Check(tessarine::ScriptEngine& engine, const std::string& source) {
   engine.Run();
   if (compile_errors + runtime_errors > 1) std::abort();
   if (compile_errors == 1 && prints != 0) std::abort();
+  // One Print statement per line at most, each executed once.
+  const auto lines = std::count(source.begin(), source.end(), '\n') +
+                     std::count(source.begin(), source.end(), '\r') + 1;
+  if (prints > lines) std::abort();
 }
 
 }  // namespace
