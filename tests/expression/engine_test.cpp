@@ -1,0 +1,61 @@
+// The engine's contract with its owner: Source, Run and the events.
+#include <gtest/gtest.h>
+
+#include "run_script.hpp"
+
+namespace tessarine::expression {
+namespace {
+
+TEST(ScriptEngine, SourceReplacesTheProgramAndEachRunPrintsAgain) {
+  ScriptEngine engine;
+  EXPECT_EQ(RunSource(engine, "Print Str(1)").printed, std::vector<std::string>{"1"});
+  EXPECT_EQ(RunSource(engine, "print str(2)").printed, std::vector<std::string>{"2"});
+  Outcome again;
+  engine.Print = [&again](const std::string& s) { again.printed.push_back(s); };
+  engine.Run();
+  engine.Run();
+  EXPECT_EQ(again.printed, (std::vector<std::string>{"2", "2"}));
+  EXPECT_EQ(engine.Source(), "print str(2)");
+}
+
+TEST(ScriptEngine, CompileErrorRepeatsAtEveryRun) {
+  ScriptEngine engine;
+  EXPECT_EQ(RunSource(engine, "Print Str(4*)").compile_errors, 1);
+  int errors = 0;
+  engine.CompilerError = [&errors](int, int, const std::string&) { ++errors; };
+  engine.Run();
+  EXPECT_EQ(errors, 1);
+}
+
+TEST(ScriptEngine, SeveralLinesPrintInOrderAndBlankLinesAreSkipped) {
+  EXPECT_EQ(RunTyped("1)\r\n\n  Print Str(2) + Str(3").printed,
+            (std::vector<std::string>{"1", "23"}));
+  EXPECT_TRUE(RunSource("\n \n").printed.empty());
+}
+
+TEST(ScriptEngine, RunsWithNoEventsSet) {
+  ScriptEngine engine;
+  for (const char* source : {"Print Str(1)", "Print Str(", "Print Str(1\\0)"}) {
+    engine.Source(source);
+    engine.Run();
+  }
+  EXPECT_EQ(RunSource(engine, "Print Str(3)").printed, std::vector<std::string>{"3"});
+}
+
+TEST(ScriptEngine, PrintHandlerMayReplaceTheSourceAndRunAgain) {
+  ScriptEngine engine;
+  std::vector<std::string> printed;
+  engine.Print = [&](const std::string& s) {
+    printed.push_back(s);
+    if (printed.size() == 1) {
+      engine.Source("Print Str(5)");
+      engine.Run();
+    }
+  };
+  engine.Source("Print Str(1)\nPrint Str(2)");
+  engine.Run();
+  EXPECT_EQ(printed, (std::vector<std::string>{"1", "5", "2"}));
+}
+
+}  // namespace
+}  // namespace tessarine::expression

@@ -1,0 +1,61 @@
+// Runs the Expression tab's wrapping of a typed text and records every event raised.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "expression/script_engine.hpp"
+
+namespace tessarine::expression {
+
+// Everything one Run reported.
+struct Outcome {
+  std::vector<std::string> printed;
+  int compile_errors = 0;
+  int error_line = 0;
+  int error_column = 0;
+  std::string error_message;
+  int runtime_errors = 0;
+  std::string runtime_class;
+};
+
+inline Outcome RunSource(ScriptEngine& engine, std::string_view source) {
+  Outcome out;
+  engine.Print = [&out](const std::string& s) { out.printed.push_back(s); };
+  engine.CompilerError = [&out](int line, int column, const std::string& message) {
+    ++out.compile_errors;
+    out.error_line = line;
+    out.error_column = column;
+    out.error_message = message;
+  };
+  engine.RuntimeError = [&out](int line, const RuntimeException& e) {
+    ++out.runtime_errors;
+    out.error_line = line;
+    out.runtime_class = e.ClassName();
+  };
+  engine.Source(source);
+  engine.Run();
+  return out;
+}
+
+inline Outcome RunSource(std::string_view source) {
+  ScriptEngine engine;
+  return RunSource(engine, source);
+}
+
+// The source the tab builds from the field's text.
+inline Outcome RunTyped(std::string_view typed) {
+  return RunSource("Print Str(" + std::string(typed) + ")");
+}
+
+// The one printed text of a run that succeeded, or a marker naming what went wrong.
+inline std::string ValueOf(std::string_view typed) {
+  const Outcome o = RunTyped(typed);
+  if (o.compile_errors) return "<compile error: " + o.error_message + ">";
+  if (o.runtime_errors) return "<runtime error>";
+  if (o.printed.size() != 1) return "<printed " + std::to_string(o.printed.size()) + " times>";
+  return o.printed[0];
+}
+
+}  // namespace tessarine::expression
