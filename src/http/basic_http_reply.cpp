@@ -186,8 +186,11 @@ void BasicHTTP::Cancel() {
 }
 
 void BasicHTTP::Redirect(const std::string& url) {
-  if (!ParseURL(url)) return;
+  // The old connection goes first, so that a refused location leaves nothing
+  // open behind it whose close would raise an event later.
   socket_->Close();
+  Connected = false;
+  if (!ParseURL(url)) return;
   RememberSettings = true;
   Init();
   const auto alive = alive_;

@@ -189,6 +189,7 @@ void PosixSocket::Close() {
   pending_connected_ = pending_error_ = false;
   lookup_.reset();
   addresses_.clear();
+  next_address_ = 0;
   in_.clear();
   in_pos_ = 0;
   out_.clear();
