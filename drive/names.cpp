@@ -11,10 +11,6 @@ namespace tessarine::drive {
 
 namespace {
 
-bool IsWindowName(const std::string& name) {
-  return StrEq(name, "CalcWindow") || StrEq(name, "ProgressBarWindow") ||
-         StrEq(name, "TapeWindow");
-}
 
 // "Name(12)" -> Name and 12; "Name" -> Name and -1.
 void SplitIndex(const std::string& text, std::string& name, int& index) {
@@ -34,14 +30,9 @@ void SplitIndex(const std::string& text, std::string& name, int& index) {
 
 Window& FindWindow(Program& program, const std::string& name) {
   // Named, the tape comes into being as the program's own accessor makes it.
-  if (StrEq(name, "TapeWindow")) return program.GetTapeWindow();
-  if (Window* window = program.FindOpenWindow(name); window && !StrEq(name, "CalcWindow"))
-    return *window;
-  if (StrEq(name, "CalcWindow")) {
-    if (CalcWindow* window = program.ExistingCalcWindow(); window && window->IsOpen())
-      return *window;
-    throw ScriptError("window CalcWindow is not open");
-  }
+  if (StrEq(name, TapeWindow::kName)) return program.GetTapeWindow();
+  if (Window* window = program.FindOpenWindow(name)) return *window;
+  if (program.Windows().Knows(name)) throw ScriptError("window " + name + " is not open");
   throw ScriptError("unknown window " + name);
 }
 
@@ -52,7 +43,7 @@ Target Resolve(Program& program, const std::string& name) {
   if (dot != std::string::npos) {
     window_name = name.substr(0, dot);
     rest = name.substr(dot + 1);
-  } else if (IsWindowName(name)) {
+  } else if (program.Windows().Knows(name)) {
     return Target{&FindWindow(program, name), nullptr, nullptr};
   }
   Window& window = FindWindow(program, window_name);
