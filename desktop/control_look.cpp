@@ -43,6 +43,10 @@ ControlLook LookFor(const Control& control) {
              Is(control, "ButtonXtotheY")) {
     look.family = kSerifFamily;
     look.pixel_size = 15;
+  } else if (Is(control, "TapeEditField")) {
+    // The tape pads its values to fixed columns, which line up only in a fixed face.
+    look.family = kMonoFamily;
+    look.pixel_size = 11;
   } else if (Is(control, "CalcTabSelector")) {
     look.pixel_size = 11;
   } else if (IsKey(control) && control.Parent().empty()) {

@@ -32,6 +32,7 @@ DesktopApp::DesktopApp(std::uint64_t random_seed, const std::string& preferences
     : platform_(preferences_folder), program_(platform_.platform(), random_seed) {
   platform_.SetWindowHost(this);
   program_.Windows().WindowMade.Connect([this](Window& window) { OnWindowMade(window); }).Release();
+
 }
 
 void DesktopApp::OnWindowMade(Window& window) {
@@ -70,6 +71,17 @@ DesktopApp::~DesktopApp() {
 void DesktopApp::Start() {
   program_.Start();
   main_view_ = std::make_unique<MainWindowView>(program_, platform_);
+  // The window in front gets the menu commands first (Copy on the tape, for one).
+  QObject::connect(qApp, &QGuiApplication::focusWindowChanged, main_view_.get(),
+                   [this](QWindow* focus) {
+                     if (!focus) return;
+                     WindowRegistry& windows = program_.Windows();
+                     if (focus == main_view_->windowHandle())
+                       windows.SetFront(program_.ExistingCalcWindow());
+                     for (const auto& [name, dialog] : dialogs_)
+                       if (dialog && focus == dialog->windowHandle())
+                         windows.SetFront(windows.FindOpen(name));
+                   });
   main_view_->show();
 }
 

@@ -19,6 +19,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QTabBar>
+#include <QTextCursor>
 
 #include "control_look.hpp"
 #include "control_widgets.hpp"
@@ -273,6 +274,14 @@ QWidget* WindowCanvas::Make(Control& control) {
       edit->setFocusPolicy(Qt::ClickFocus);
       connect(edit, &QPlainTextEdit::textChanged, this, [this, c, edit] {
         if (!applying_) c->UserSetText(FromScreen(edit->toPlainText()));
+      });
+      // The user's selection, in the model's characters, for the menu's Copy.
+      connect(edit, &QPlainTextEdit::selectionChanged, this, [c, edit] {
+        const QTextCursor cursor = edit->textCursor();
+        const QString text = edit->toPlainText();
+        const int start = Len(text.left(cursor.selectionStart()).toStdString());
+        const int end = Len(text.left(cursor.selectionEnd()).toStdString());
+        c->UserSetSelection(start, end - start);
       });
       widget = edit;
       break;

@@ -13,7 +13,7 @@ WindowDialog::WindowDialog(Window& window, QWidget* sheet_parent)
       binding_(new WindowCanvas(window, *this)),
       sheet_(sheet_parent != nullptr) {
   setObjectName(QString::fromStdString(window.Name()));
-  setWindowTitle(QStringLiteral("Tessarine"));
+  setWindowTitle(QString::fromStdString(window.Title()));
   if (sheet_) {
     // No close button: the program closes the sheet when its work is done.
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);

@@ -135,6 +135,9 @@ void CalcWindow::WireHandlers() {
   };
   storage_menu.events.MouseMove = [this](int x, int y) { StorageMenu_MouseMove(x, y); };
   storage_menu.events.MouseExit = [this] { StorageMenu_MouseExit(); };
+  Control& link = Get("BrindleyURL");
+  link.events.MouseDown = [this](int x, int y) { return BrindleyURL_MouseDown(x, y); };
+  link.events.MouseUp = [this](int x, int y) { BrindleyURL_MouseUp(x, y); };
   StartupMessageTimer.Action = [this] { StartupMessageTimer_Action(); };
   ToggleTrigButtonsTimer.Action = [this] { ToggleTrigButtonsTimer_Action(); };
 }

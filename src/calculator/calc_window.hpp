@@ -37,6 +37,9 @@
 
 namespace tessarine {
 
+// The maker's home page, as the link and the Help menu open it.
+std::string MakerHomePage();
+
 class CalcWindow final : public Window {
  public:
   explicit CalcWindow(AppContext& app);
@@ -195,6 +198,10 @@ class CalcWindow final : public Window {
   // --- Two-operand functions computed by long loops ------------------------
   double ComputeCombinations();
   double ComputePermutations();
+
+  // The maker's link under the keypad (maker_link.cpp).
+  bool BrindleyURL_MouseDown(int x, int y);
+  void BrindleyURL_MouseUp(int x, int y);
 
   // --- Start-up -----------------------------------------------------------
   void StartupMessageTimer_Action();

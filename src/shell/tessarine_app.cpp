@@ -92,7 +92,7 @@ bool TessarineApp::MenuCommand(std::string_view name, int index) {
 }
 
 void TessarineApp::_VisitOurWebSiteMenu_Action() {
-  program_.GetPlatform().desktop.ShowURL("http://" + std::string(kMakerHostName) + "/");
+  program_.GetPlatform().desktop.ShowURL(MakerHomePage());
 }
 
 // Shows or hides the tape, by the item's own text.
