@@ -8,6 +8,7 @@
 #include "runtime/arithmetic.hpp"
 #include "runtime/date.hpp"
 #include "runtime/text.hpp"
+#include "settings/preference_keys.hpp"
 
 namespace tessarine {
 
@@ -34,16 +35,16 @@ void CalcWindow::Event_Open() {
   prefs.SetName("Tessarine4 Preferences", "PREF");
 
   // 3. Modes and flags.
-  globals_.ShowHelpTags = prefs.GetBooleanValue("ShowToolTipHelpTags", true, true);
-  globals_.ShowMemoryButtons = prefs.GetBooleanValue("ShowMemoryButtonsSetting", false, true);
-  ShowAdvancedFeatures = prefs.GetBooleanValue("StartupWithAdvancedFeatures", false, true);
-  globals_.StartWithTabCalled = prefs.GetStringValue("StartWithTab", "Tab1", true);
-  TapeOnAtStartup = prefs.GetBooleanValue("TapeOn", false, true);
-  TapeVisibleAtStartup = prefs.GetBooleanValue("TapeVisible", false, true);
+  globals_.ShowHelpTags = ReadPref(prefs, prefs::ShowToolTipHelpTags);
+  globals_.ShowMemoryButtons = ReadPref(prefs, prefs::ShowMemoryButtonsSetting);
+  ShowAdvancedFeatures = ReadPref(prefs, prefs::StartupWithAdvancedFeatures);
+  globals_.StartWithTabCalled = ReadPref(prefs, prefs::StartWithTab);
+  TapeOnAtStartup = ReadPref(prefs, prefs::TapeOn);
+  TapeVisibleAtStartup = ReadPref(prefs, prefs::TapeVisible);
 
   // 4. Position, kept on the primary screen.
-  int left = ToInt(prefs.GetNumberValue("LeftPosition", 220, true));
-  int top = ToInt(prefs.GetNumberValue("TopPosition", 100, true));
+  int left = ToInt(ReadPref(prefs, prefs::LeftPosition));
+  int top = ToInt(ReadPref(prefs, prefs::TopPosition));
   left = std::max(left, 0);
   top = std::max(top, 0);
   left = std::min(left, platform_.desktop.ScreenWidth() - 170);
@@ -64,32 +65,32 @@ void CalcWindow::Event_Open() {
 
   // 6, 7. Captions and the display's formats.
   TrigButtonNormalCaptions = true;
-  globals_.NoExponentFormat = prefs.GetStringValue("NoExpFormat", "-#.########", true);
-  globals_.ExponentFormat = prefs.GetStringValue("ExpFormat", "-#.########e+", true);
-  globals_.SmallPositiveNumber = prefs.GetStringValue("SmallPosNumber", "0.0000001", true);
-  globals_.SmallNegativeNumber = prefs.GetStringValue("SmallNegNumber", "-0.0000001", true);
-  globals_.NumberOfDecimals = ToInt(prefs.GetNumberValue("NumOfDec", 6, true));
+  globals_.NoExponentFormat = ReadPref(prefs, prefs::NoExpFormat);
+  globals_.ExponentFormat = ReadPref(prefs, prefs::ExpFormat);
+  globals_.SmallPositiveNumber = ReadPref(prefs, prefs::SmallPosNumber);
+  globals_.SmallNegativeNumber = ReadPref(prefs, prefs::SmallNegNumber);
+  globals_.NumberOfDecimals = ToInt(ReadPref(prefs, prefs::NumOfDec));
 
   // 8. Sounds: the switches, then the numbers.
-  globals_.UseNumberSound = prefs.GetBooleanValue("UseNumberSnd", true, true);
-  globals_.UseCalculationSound = prefs.GetBooleanValue("UseCalculationSnd", true, true);
-  globals_.UseErrorSound = prefs.GetBooleanValue("UseErrorSnd", true, true);
-  globals_.UseClearSound = prefs.GetBooleanValue("UseClearSnd", true, true);
-  globals_.UseResultSound = prefs.GetBooleanValue("UseResultSnd", true, true);
-  globals_.NumberSoundNumber = ToInt(prefs.GetNumberValue("NumberSndNumber", 6, true));
-  globals_.CalculationSoundNumber = ToInt(prefs.GetNumberValue("CalculationSndNumber", 2, true));
-  globals_.ErrorSoundNumber = ToInt(prefs.GetNumberValue("ErrorSndNumber", 1, true));
-  globals_.ClearSoundNumber = ToInt(prefs.GetNumberValue("ClearSndNumber", 5, true));
-  globals_.ResultSoundNumber = ToInt(prefs.GetNumberValue("ResultSndNumber", 10, true));
+  globals_.UseNumberSound = ReadPref(prefs, prefs::UseNumberSnd);
+  globals_.UseCalculationSound = ReadPref(prefs, prefs::UseCalculationSnd);
+  globals_.UseErrorSound = ReadPref(prefs, prefs::UseErrorSnd);
+  globals_.UseClearSound = ReadPref(prefs, prefs::UseClearSnd);
+  globals_.UseResultSound = ReadPref(prefs, prefs::UseResultSnd);
+  globals_.NumberSoundNumber = ToInt(ReadPref(prefs, prefs::NumberSndNumber));
+  globals_.CalculationSoundNumber = ToInt(ReadPref(prefs, prefs::CalculationSndNumber));
+  globals_.ErrorSoundNumber = ToInt(ReadPref(prefs, prefs::ErrorSndNumber));
+  globals_.ClearSoundNumber = ToInt(ReadPref(prefs, prefs::ClearSndNumber));
+  globals_.ResultSoundNumber = ToInt(ReadPref(prefs, prefs::ResultSndNumber));
 
   // 9, 10. The saved display's switch, and the memory banks.
-  globals_.SaveDisplay = prefs.GetBooleanValue("SaveDisplaySetting", false, true);
-  globals_.SaveMemoryBanks = prefs.GetBooleanValue("SaveMemoryBanksSetting", false, true);
+  globals_.SaveDisplay = ReadPref(prefs, prefs::SaveDisplaySetting);
+  globals_.SaveMemoryBanks = ReadPref(prefs, prefs::SaveMemoryBanksSetting);
   if (globals_.SaveMemoryBanks) {
     for (int n = 1; n <= 10; ++n) {
-      StorageValue(n) = prefs.GetNumberValue("SavedStorageValue" + std::to_string(n), 0, true);
+      StorageValue(n) = ReadPref(prefs, prefs::SavedStorageValue, n);
       Item("MemoryLabel", n).SetVisible(
-          prefs.GetBooleanValue("MemoryBankVisible" + std::to_string(n), false, true));
+          ReadPref(prefs, prefs::MemoryBankVisible, n));
     }
   }
   for (int n = 1; n <= 10; ++n) Get("StorageMenu").SetRow(n - 1, StorageRowText(n));
@@ -97,18 +98,18 @@ void CalcWindow::Event_Open() {
   // 12. Speech: the key holds the state before one flip.
   MenuBar& bar = app_.menu_bar;
   bar.SetChecked(bar.Item("SpeechSpeakButtonMenu"),
-                 prefs.GetBooleanValue("SpeakButton", true, true));
+                 ReadPref(prefs, prefs::SpeakButton));
   SpeakButtonsClicked();
-  bar.SetChecked(bar.Item("SpeechSpeakTotalMenu"), prefs.GetBooleanValue("SpeakTotal", true, true));
+  bar.SetChecked(bar.Item("SpeechSpeakTotalMenu"), ReadPref(prefs, prefs::SpeakTotal));
   SpeakTotalClicked();
 
   // 13. The currency rates.
   for (const auto& part : parts_) part->Restore(MainWindowPart::OpenStep::Rates);
 
   // 14. The tape's place while hidden.
-  globals_.TapeWindowLeftPosition = ToInt(prefs.GetNumberValue("TapeLeftPosition", 10, true));
-  globals_.TapeWindowTopPosition = ToInt(prefs.GetNumberValue("TapeTopPosition", 100, true));
-  globals_.TapeWindowHeight = ToInt(prefs.GetNumberValue("TapeHeight", 250, true));
+  globals_.TapeWindowLeftPosition = ToInt(ReadPref(prefs, prefs::TapeLeftPosition));
+  globals_.TapeWindowTopPosition = ToInt(ReadPref(prefs, prefs::TapeTopPosition));
+  globals_.TapeWindowHeight = ToInt(ReadPref(prefs, prefs::TapeHeight));
   if (TapeVisibleAtStartup) ShowTape();
 
   // 15. The conversion tab's choices.
@@ -126,8 +127,8 @@ void CalcWindow::StartupMessageTimer_Action() {
   PrefsModule& prefs = app_.prefs;
   Display.SetTextSize(15);
   if (globals_.SaveDisplay) {
-    Display.SetText(prefs.GetStringValue("SavedDisplayValue", "0", true));
-    ExponentText.SetText(prefs.GetStringValue("SavedExpValue", "", true));
+    Display.SetText(ReadPref(prefs, prefs::SavedDisplayValue));
+    ExponentText.SetText(ReadPref(prefs, prefs::SavedExpValue));
     Result = CDbl(Display.Text()) * Pow(10, Val(ExponentText.Text()));
   } else {
     Result = 0;
@@ -136,49 +137,48 @@ void CalcWindow::StartupMessageTimer_Action() {
   platform_.desktop.ClearFocus();
   HelpTagsEnabled(globals_.ShowHelpTags);
   UpdateDisplay();
-  globals_.NumberOfLaunches = ToInt(prefs.GetNumberValue("NumberOfLaunchesVal", 1, true));
+  globals_.NumberOfLaunches = ToInt(ReadPref(prefs, prefs::NumberOfLaunchesVal));
   globals_.NumberOfLaunches += 1;  // in memory only; the close saves it
   for (const auto& part : parts_) part->Started(t);
 }
 
 void CalcWindow::Event_Close() {
   PrefsModule& prefs = app_.prefs;
-  prefs.SetBooleanValue("ShowToolTipHelpTags", globals_.ShowHelpTags, true);
+  WritePref(prefs, prefs::ShowToolTipHelpTags, globals_.ShowHelpTags);
   if (ShowAdvancedFeatures) {
-    prefs.SetBooleanValue("StartupWithAdvancedFeatures", true, true);
+    WritePref(prefs, prefs::StartupWithAdvancedFeatures, true);
     const int tab = Get("CalcTabSelector").Value();
     if (tab >= 0 && tab <= 4)
-      prefs.SetStringValue("StartWithTab", "Tab" + std::to_string(tab + 1), true);
+      WritePref(prefs, prefs::StartWithTab, "Tab" + std::to_string(tab + 1));
   } else {
-    prefs.SetBooleanValue("StartupWithAdvancedFeatures", false, true);
+    WritePref(prefs, prefs::StartupWithAdvancedFeatures, false);
   }
-  prefs.SetNumberValue("LeftPosition", Left(), true);
-  prefs.SetNumberValue("TopPosition", Top(), true);
+  WritePref(prefs, prefs::LeftPosition, Left());
+  WritePref(prefs, prefs::TopPosition, Top());
   // Stored as the opposite of the check mark: the opening flips it once.
   MenuBar& bar = app_.menu_bar;
-  prefs.SetBooleanValue("SpeakButton", !bar.Item("SpeechSpeakButtonMenu").checked, true);
-  prefs.SetBooleanValue("SpeakTotal", !bar.Item("SpeechSpeakTotalMenu").checked, true);
-  prefs.SetStringValue("NoExpFormat", globals_.NoExponentFormat, true);
-  prefs.SetStringValue("ExpFormat", globals_.ExponentFormat, true);
-  prefs.SetStringValue("SmallPosNumber", globals_.SmallPositiveNumber, true);
-  prefs.SetStringValue("SmallNegNumber", globals_.SmallNegativeNumber, true);
-  prefs.SetNumberValue("NumOfDec", globals_.NumberOfDecimals, true);
-  prefs.SetBooleanValue("SaveDisplaySetting", globals_.SaveDisplay, true);
-  prefs.SetStringValue("SavedDisplayValue", Display.Text(), true);
-  prefs.SetStringValue("SavedExpValue", ExponentText.Text(), true);
-  prefs.SetBooleanValue("SaveMemoryBanksSetting", globals_.SaveMemoryBanks, true);
+  WritePref(prefs, prefs::SpeakButton, !bar.Item("SpeechSpeakButtonMenu").checked);
+  WritePref(prefs, prefs::SpeakTotal, !bar.Item("SpeechSpeakTotalMenu").checked);
+  WritePref(prefs, prefs::NoExpFormat, globals_.NoExponentFormat);
+  WritePref(prefs, prefs::ExpFormat, globals_.ExponentFormat);
+  WritePref(prefs, prefs::SmallPosNumber, globals_.SmallPositiveNumber);
+  WritePref(prefs, prefs::SmallNegNumber, globals_.SmallNegativeNumber);
+  WritePref(prefs, prefs::NumOfDec, globals_.NumberOfDecimals);
+  WritePref(prefs, prefs::SaveDisplaySetting, globals_.SaveDisplay);
+  WritePref(prefs, prefs::SavedDisplayValue, Display.Text());
+  WritePref(prefs, prefs::SavedExpValue, ExponentText.Text());
+  WritePref(prefs, prefs::SaveMemoryBanksSetting, globals_.SaveMemoryBanks);
   if (globals_.SaveMemoryBanks) {
     for (int n = 1; n <= 10; ++n) {
-      prefs.SetNumberValue("SavedStorageValue" + std::to_string(n), StorageValue(n), true);
-      prefs.SetBooleanValue("MemoryBankVisible" + std::to_string(n),
-                            Item("MemoryLabel", n).Visible(), true);
+      WritePref(prefs, prefs::SavedStorageValue, n, StorageValue(n));
+      WritePref(prefs, prefs::MemoryBankVisible, n, Item("MemoryLabel", n).Visible());
     }
   }
-  prefs.SetNumberValue("NumberOfLaunchesVal", globals_.NumberOfLaunches, true);
+  WritePref(prefs, prefs::NumberOfLaunchesVal, globals_.NumberOfLaunches);
   SaveTapePlace();
-  prefs.SetNumberValue("TapeLeftPosition", globals_.TapeWindowLeftPosition, true);
-  prefs.SetNumberValue("TapeTopPosition", globals_.TapeWindowTopPosition, true);
-  prefs.SetNumberValue("TapeHeight", globals_.TapeWindowHeight, true);
+  WritePref(prefs, prefs::TapeLeftPosition, globals_.TapeWindowLeftPosition);
+  WritePref(prefs, prefs::TapeTopPosition, globals_.TapeWindowTopPosition);
+  WritePref(prefs, prefs::TapeHeight, globals_.TapeWindowHeight);
   for (const auto& part : parts_) part->Closing();
   prefs.WriteOut();
   platform_.desktop.Quit();  // closing the main window ends the program

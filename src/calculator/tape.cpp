@@ -3,6 +3,7 @@
 #include "calculator/calc_window.hpp"
 #include "calculator/tape_window.hpp"
 #include "runtime/text.hpp"
+#include "settings/preference_keys.hpp"
 
 namespace tessarine {
 
@@ -29,7 +30,7 @@ void CalcWindow::ShowTape() {
   tape.SetBounds(globals_.TapeWindowLeftPosition, globals_.TapeWindowTopPosition, tape.Width(),
                  globals_.TapeWindowHeight);
   tape.SetVisible(true);
-  app_.prefs.SetBooleanValue("TapeVisible", true, true);
+  WritePref(app_.prefs, prefs::TapeVisible, true);
 }
 
 void CalcWindow::SaveTapePlace() {

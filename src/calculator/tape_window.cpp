@@ -4,6 +4,7 @@
 
 #include "calculator/calc_window.hpp"
 #include "runtime/text.hpp"
+#include "settings/preference_keys.hpp"
 
 namespace tessarine {
 
@@ -35,8 +36,8 @@ TapeWindow::TapeWindow(AppContext& app)
   };
 
   PrefsModule& prefs = app.prefs;
-  TapeOnButton.events.Action = [&prefs] { prefs.SetBooleanValue("TapeOn", true, true); };
-  TapeOffButton.events.Action = [&prefs] { prefs.SetBooleanValue("TapeOn", false, true); };
+  TapeOnButton.events.Action = [&prefs] { WritePref(prefs, prefs::TapeOn, true); };
+  TapeOffButton.events.Action = [&prefs] { WritePref(prefs, prefs::TapeOn, false); };
   TapeEditField.events.TextChange = [this] {
     // Every change, by the user or by a write.
     app_.globals.TapeChanged = true;

@@ -6,6 +6,7 @@
 #include "calculator/tape_window.hpp"
 #include "runtime/text.hpp"
 #include "settings/deployment.hpp"
+#include "settings/preference_keys.hpp"
 #include "shell/main_menu.hpp"
 #include "shell/program.hpp"
 
@@ -103,11 +104,11 @@ void TessarineApp::_FileTapeControlMenu_Action() {
     TapeWindow& tape = program_.GetTapeWindow();
     tape.Event_Moved();
     tape.SetVisible(false);
-    program_.Prefs().SetBooleanValue("TapeVisible", false, true);
+    WritePref(program_.Prefs(), prefs::TapeVisible, false);
     menu_bar_.SetText(item, "Show Tape");
   } else {
     program_.GetCalcWindow().ShowTape();
-    program_.Prefs().SetBooleanValue("TapeVisible", true, true);
+    WritePref(program_.Prefs(), prefs::TapeVisible, true);
     TapeWindow& tape = program_.GetTapeWindow();
     tape.SetBounds(globals.TapeWindowLeftPosition, globals.TapeWindowTopPosition, tape.Width(),
                    globals.TapeWindowHeight);
