@@ -3,12 +3,14 @@
 #   make test   install what is missing, build, run every test (SAN=1: under ASan+UBSan)
 #   make bench  build optimised and run the benchmarks
 #   make deps   only install the Debian packages the project needs
+#   make format format every C++ file; make test checks the format first
+#   make tidy   clang-tidy's bugprone and performance checks over src/
 
 PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenchmark-dev clang \
             libclang-rt-14-dev \
             nlohmann-json3-dev locales \
             qt6-base-dev qt6-multimedia-dev libspeechd-dev speech-dispatcher poppler-utils \
-            fonts-liberation2 xvfb xauth xdotool imagemagick
+            fonts-liberation2 xvfb xauth xdotool imagemagick clang-format clang-tidy
 
 SAN ?= 0
 WERROR ?= 0
@@ -27,7 +29,7 @@ endif
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build test run bench fuzz clean
+.PHONY: all deps configure build test run bench fuzz clean format format-check tidy
 
 all: build
 
@@ -56,8 +58,20 @@ configure: deps
 build: configure
 	@cmake --build $(BUILD_DIR) -j $(JOBS)
 
-test: build
+test: build format-check
 	@cd $(BUILD_DIR) && ctest --output-on-failure -j $(JOBS)
+
+# Every C++ file of the project in .clang-format's style.
+FORMAT_FILES = $(shell git ls-files '*.cpp' '*.hpp' 2>/dev/null || find src drive desktop tests bench tools -name '*.[ch]pp')
+format: deps
+	@clang-format -i $(FORMAT_FILES)
+format-check: deps
+	@clang-format --dry-run --Werror $(FORMAT_FILES) || \
+	  { echo "Some files are not formatted: run 'make format'."; exit 1; }
+
+# The checks of .clang-tidy over the core, with the build's compile commands.
+tidy: configure
+	@clang-tidy -p $(BUILD_DIR) --quiet $(filter src/%.cpp,$(FORMAT_FILES))
 
 # The desktop calculator. Without a display (DISPLAY and WAYLAND_DISPLAY empty) it
 # runs for a few seconds on a virtual one, and a screenshot shows what it drew.
