@@ -39,7 +39,7 @@ void CalcWindow::_EditClear_Action() {
   Push(Get("ButtonClear"));
 }
 
-// The constants of the menu are not built yet; the entry does nothing until then.
+// FORWARD CALL: does nothing until the constants catalogue fills the menu.
 void CalcWindow::_MenuConstant_Action(int) {}
 
 }  // namespace tessarine

@@ -4,6 +4,7 @@
 
 namespace tessarine {
 
+// FORWARD CALL: does nothing until the help texts are written.
 void CalcWindow::HelpTagsEnabled(bool) {}
 
 }  // namespace tessarine

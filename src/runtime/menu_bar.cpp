@@ -47,7 +47,7 @@ void MenuBar::SetText(MenuItem& item, std::string text) {
 }
 
 void MenuBar::Notify(const MenuItem* item) {
-  for (const auto& observer : observers_) observer(item);
+  changed_.Emit(item);
 }
 
 }  // namespace tessarine

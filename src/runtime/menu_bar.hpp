@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "runtime/signal.hpp"
+
 namespace tessarine {
 
 struct MenuItem {
@@ -44,12 +46,12 @@ class MenuBar {
 
   // Change notification for a front end: an item changed, or (nullptr) the tree.
   using Observer = std::function<void(const MenuItem* item)>;
-  void Observe(Observer observer) { observers_.push_back(std::move(observer)); }
+  void Observe(Observer observer) { changed_.Connect(std::move(observer)).Release(); }
 
  private:
   void Notify(const MenuItem* item);
   std::vector<Menu> menus_;
-  std::vector<Observer> observers_;
+  Signal<const MenuItem*> changed_;
 };
 
 }  // namespace tessarine

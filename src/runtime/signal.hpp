@@ -34,6 +34,7 @@ class Connection {
   void Disconnect() {
     if (auto disconnect = std::exchange(disconnect_, {})) disconnect();
   }
+  bool Connected() const { return static_cast<bool>(disconnect_); }
   // Keeps the callback connected for the signal's whole life.
   void Release() { disconnect_ = {}; }
 

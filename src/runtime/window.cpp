@@ -130,10 +130,8 @@ void Window::Dispatch(std::string_view handler_name, const std::function<void()>
 
 void Window::NotifyChanged(Control* control, Property property) {
   // An observer may add observers (a front end builds a window's view when the
-  // window shows): those present when the change happened are told, by index,
-  // since the vector may grow meanwhile.
-  const std::size_t count = observers_.size();
-  for (std::size_t i = 0; i < count; ++i) observers_[i](control, property);
+  // window shows): the signal tells those present when the change happened.
+  changed_.Emit(control, property);
 }
 
 }  // namespace tessarine

@@ -16,6 +16,7 @@
 #include "runtime/field_value.hpp"
 #include "runtime/menu_bar.hpp"
 #include "runtime/platform/platform.hpp"
+#include "runtime/signal.hpp"
 #include "runtime/timer.hpp"
 
 namespace tessarine {
@@ -96,7 +97,9 @@ class Window {
   // Change notification for front ends: a control's property, or the window's
   // bounds (control == nullptr).
   using Observer = std::function<void(Control* control, Property property)>;
-  void Observe(Observer observer) { observers_.push_back(std::move(observer)); }
+  // An observer for the window's whole life; Connect gives a handle to drop it sooner.
+  void Observe(Observer observer) { changed_.Connect(std::move(observer)).Release(); }
+  [[nodiscard]] Connection Connect(Observer observer) { return changed_.Connect(std::move(observer)); }
   void NotifyChanged(Control* control, Property property);
 
  protected:
@@ -112,7 +115,7 @@ class Window {
   std::vector<std::unique_ptr<Control>> controls_;
   std::unordered_map<std::string, std::vector<Control*>> by_name_;  // folded name
   std::vector<std::unique_ptr<Timer>> timers_;
-  std::vector<Observer> observers_;
+  Signal<Control*, Property> changed_;
   int dispatch_depth_ = 0;
   bool open_ = false;
   int left_ = 0, top_ = 0, width_ = 0, height_ = 0;

@@ -15,8 +15,8 @@ namespace tessarine {
 TessarineApp::TessarineApp(Program& program)
     : program_(program), menu_bar_(program.Context().menu_bar) {
   BuildMainMenu(menu_bar_);
-  // Items whose windows are not built yet (about, preferences, the update check)
-  // have their place here and do nothing until then.
+  // FORWARD CALL: the items whose windows are not built yet (about, preferences,
+  // constants, donation, the update check) have their place here and do nothing.
   const auto nothing_yet = [] {};
   handlers_ = {
       {"VisitOurWebSiteMenu", [this] { _VisitOurWebSiteMenu_Action(); }},
