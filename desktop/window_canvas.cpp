@@ -200,6 +200,8 @@ QWidget* WindowCanvas::Make(Control& control) {
       auto* label = new QLabel(&canvas_);
       label->setTextFormat(Qt::PlainText);
       label->setMouseTracking(true);
+      // A label taller than a line, as a sheet's message, wraps its words.
+      label->setWordWrap(control.Height() > 30);
       widget = label;
       break;
     }
@@ -384,6 +386,7 @@ void WindowCanvas::Apply(const Bound& bound, Property property) {
     case Property::Maximum:
       if (auto* bar = qobject_cast<QProgressBar*>(widget)) bar->setMaximum(control.Maximum());
       break;
+    case Property::Selection: break;  // the field keeps the caret the user put there
   }
 }
 

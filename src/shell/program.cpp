@@ -3,6 +3,7 @@
 #include "calculator/calc_window.hpp"
 #include "calculator/progress_bar_window.hpp"
 #include "calculator/tape_window.hpp"
+#include "conversion/currency_error_window.hpp"
 #include "shell/main_window_parts.hpp"
 #include "shell/tessarine_app.hpp"
 
@@ -28,6 +29,8 @@ void Program::RegisterWindows() {
   windows_.Register(TapeWindow::kName, [this] { return std::make_unique<TapeWindow>(context_); });
   windows_.Register(ProgressBarWindow::kName,
                     [this] { return std::make_unique<ProgressBarWindow>(platform_); });
+  windows_.Register(CurrencyErrorWindow::kName,
+                    [this] { return std::make_unique<CurrencyErrorWindow>(platform_); });
 }
 
 void Program::Start() {
