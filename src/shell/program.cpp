@@ -5,6 +5,7 @@
 #include "calculator/tape_window.hpp"
 #include "shell/main_window_parts.hpp"
 #include "shell/tessarine_app.hpp"
+#include "statistics/stats_windows.hpp"
 
 namespace tessarine {
 
@@ -28,6 +29,7 @@ void Program::RegisterWindows() {
   windows_.Register(TapeWindow::kName, [this] { return std::make_unique<TapeWindow>(context_); });
   windows_.Register(ProgressBarWindow::kName,
                     [this] { return std::make_unique<ProgressBarWindow>(platform_); });
+  statistics::RegisterStatsWindows(context_);
 }
 
 void Program::Start() {
