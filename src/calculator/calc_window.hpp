@@ -20,6 +20,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -49,6 +50,13 @@ class CalcWindow final : public Window {
   // A subsystem's part of the window (a tab page's logic), which wires its own
   // controls' handlers. The window owns it; parts are added before it opens.
   void AddPart(std::unique_ptr<MainWindowPart> part);
+  // The part of that type, or nullptr when none was added.
+  template <class T>
+  T* Part() const {
+    for (const auto& part : parts_)
+      if (auto* found = dynamic_cast<T*>(part.get())) return found;
+    return nullptr;
+  }
 
   // --- The keypad's state -------------------------------------------------
   double Result = 0;        // the current value: on display, read and written by every key
@@ -152,6 +160,9 @@ class CalcWindow final : public Window {
   // Keys of other tabs that the keyboard reaches.
   void ButtonStatsInputAction();
   void ButtonStatsDelAction();
+  // The Stats page's part answers its two keys; until it is added they do nothing.
+  std::function<void()> StatsInputHandler;
+  std::function<void()> StatsDeleteHandler;
   void ButtonShowAdvancedFeaturesAction();
   void ToggleAdvancedFeatures();
 

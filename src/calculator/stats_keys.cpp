@@ -1,10 +1,15 @@
 // The statistics page's input and delete keys, which the keyboard map also reaches.
-// The sample store is not built yet; the keys do nothing until it is.
+// The page's part owns the samples; the keys forward to it.
 #include "calculator/calc_window.hpp"
 
 namespace tessarine {
 
-void CalcWindow::ButtonStatsInputAction() {}
-void CalcWindow::ButtonStatsDelAction() {}
+void CalcWindow::ButtonStatsInputAction() {
+  if (StatsInputHandler) StatsInputHandler();
+}
+
+void CalcWindow::ButtonStatsDelAction() {
+  if (StatsDeleteHandler) StatsDeleteHandler();
+}
 
 }  // namespace tessarine

@@ -3,12 +3,14 @@
 #include <memory>
 
 #include "conversion/convert_tab.hpp"
+#include "statistics/stats_tab.hpp"
 
 namespace tessarine {
 
 // Each tab page's logic joins here as its subsystem lands, in the order of the tabs.
 void AddMainWindowParts(CalcWindow& window, AppContext& app) {
   window.AddPart(std::make_unique<ConvertTab>(window, app));
+  window.AddPart(std::make_unique<statistics::StatsTab>(window, app));
 }
 
 }  // namespace tessarine

@@ -6,6 +6,7 @@
 #include "conversion/currency_error_window.hpp"
 #include "shell/main_window_parts.hpp"
 #include "shell/tessarine_app.hpp"
+#include "statistics/stats_windows.hpp"
 
 namespace tessarine {
 
@@ -31,6 +32,7 @@ void Program::RegisterWindows() {
                     [this] { return std::make_unique<ProgressBarWindow>(platform_); });
   windows_.Register(CurrencyErrorWindow::kName,
                     [this] { return std::make_unique<CurrencyErrorWindow>(platform_); });
+  statistics::RegisterStatsWindows(context_);
 }
 
 void Program::Start() {

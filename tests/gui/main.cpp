@@ -22,9 +22,12 @@ int main(int argc, char** argv) {
       {"printing", tessarine::desktop::testing::RunPrintingTests},
       {"feedback", tessarine::desktop::testing::RunFeedbackTests},
       {"conversion", tessarine::desktop::testing::RunConversionTests},
+      {"statistics", tessarine::desktop::testing::RunStatisticsTests},
   };
   if (argc < 2 || !suites.count(argv[1])) {
-    std::fprintf(stderr, "usage: gui_tests {keypad|modes|menus|loops|view|printing|feedback|conversion} [Qt Test options]\n");
+    std::string names;
+    for (const auto& [name, run] : suites) names += (names.empty() ? "" : "|") + name;
+    std::fprintf(stderr, "usage: gui_tests {%s} [Qt Test options]\n", names.c_str());
     return 2;
   }
   const auto& run = suites.at(argv[1]);

@@ -11,5 +11,6 @@ int RunViewTests(int argc, char** argv);
 int RunPrintingTests(int argc, char** argv);
 int RunFeedbackTests(int argc, char** argv);
 int RunConversionTests(int argc, char** argv);
+int RunStatisticsTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing

@@ -65,47 +65,5 @@ TEST(Anova, AgreesWithScipy) {
   }
 }
 
-TEST(Anova, WorkedExampleBetweenAndWithin) {
-  const SampleStore store = StoreOf({{1, 2, 3}, {2, 3, 4}, {3, 4, 5}});
-  const AnovaOutcome between = RunAnova(store, Choice(3, true), {});
-  EXPECT_EQ(AnovaResultText(between, "."), "F (2,6) = 3.000, p = 0.1250");
-  EXPECT_EQ(AnovaTapeText(between, "."), " F(2,6)=3.000\r      p=0.1250\r");
-  // The subject term takes all the error: no finite F.
-  const AnovaOutcome within = RunAnova(store, Choice(3, false), {});
-  EXPECT_EQ(AnovaResultText(within, "."), "F (2,4) = INF, p = 0.0000");
-}
-
-struct ErrorCase {
-  const char* name;
-  std::vector<std::vector<double>> samples;
-  int ticked;  // the first boxes
-  bool between;
-  AnovaError error;
-};
-
-TEST(Anova, UserErrorsInTheirOrder) {
-  const ErrorCase cases[] = {
-      {"two_filled", {{1}, {2}}, 2, true, AnovaError::kFewerThanThree},
-      {"two_one_empty", {{1}, {}}, 2, true, AnovaError::kEmptySample},
-      {"none_ticked", {{1}}, 0, true, AnovaError::kFewerThanThree},
-      {"within_sizes_differ", {{1, 2}, {3, 4}, {5}}, 3, false, AnovaError::kRepeatedSizesDiffer},
-      {"between_sizes_2_3_4", {{1, 2}, {3, 4, 6}, {5, 6, 7, 9}}, 3, true, AnovaError::kNone},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(RunAnova(StoreOf(c.samples), Choice(c.ticked, c.between), {}).error, c.error)
-        << c.name;
-  }
-  EXPECT_EQ(RunAnova(StoreOf({{1, 2}, {3, 4, 6}, {5, 6, 7, 9}}), Choice(3, true), {}).dfe, 6.0f);
-}
-
-TEST(Anova, RepeatedMeasuresStopAtTheEleventhSubject) {
-  std::vector<std::vector<double>> samples(4);
-  for (int i = 0; i < 4; ++i) {
-    for (int j = 1; j <= 11; ++j) samples[i].push_back(j * (i + 1) % 7);
-  }
-  EXPECT_THROW(RunAnova(StoreOf(samples), Choice(4, false), {}), OutOfBoundsException);
-  EXPECT_EQ(RunAnova(StoreOf(samples), Choice(4, true), {}).error, AnovaError::kNone);
-}
-
 }  // namespace
 }  // namespace tessarine::statistics

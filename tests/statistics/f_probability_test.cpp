@@ -96,33 +96,5 @@ TEST(ProbabilityCalculator, OutputText) {
   for (const auto& c : cases) EXPECT_EQ(ProbabilityText(c.p, c.separator), c.text) << c.p;
 }
 
-TEST(ProbabilityCalculator, FieldsInNormalFormAndEpsilon) {
-  const UnadjustedOutcome plain = CalculateUnadjusted("1.50", " 1", "4.", ".", {});
-  EXPECT_TRUE(CalculateEnabled("", "1", "1"));  // an empty F reads 0
-  EXPECT_FALSE(plain.input_error);
-  EXPECT_EQ(plain.f_text, "1.5");
-  EXPECT_EQ(plain.dfn_text, "1");
-  EXPECT_EQ(plain.dfd_text, "4");
-  EXPECT_EQ(plain.output_text, "p = 0.28786413");
-  const AdjustedOutcome same = CalculateAdjusted(plain, "1", ".", {});
-  EXPECT_EQ(same.output_text, plain.output_text);
-  const AdjustedOutcome half = CalculateAdjusted(plain, "0.5", ".", {});
-  EXPECT_EQ(half.epsilon_text, "0.5");
-  EXPECT_EQ(half.output_text, ProbabilityText(Probability(0.5, 2, 1.5, {}), "."));
-  EXPECT_TRUE(CalculateAdjusted(plain, "1.5", ".", {}).epsilon_error);
-  EXPECT_TRUE(CalculateAdjusted(plain, "1e-16", ".", {}).epsilon_error);
-  EXPECT_FALSE(CalculateAdjusted(plain, "1e-15", ".", {}).epsilon_error);
-}
-
-// Invalid inputs still reach the adjusted part, which computes from them.
-TEST(ProbabilityCalculator, NoEarlyExitAfterAnInputError) {
-  const UnadjustedOutcome bad = CalculateUnadjusted("1", "0", "4", ".", {});
-  EXPECT_TRUE(bad.input_error);
-  EXPECT_EQ(bad.output_text, "");
-  const AdjustedOutcome adjusted = CalculateAdjusted(bad, "0.5", ".", {});
-  EXPECT_FALSE(adjusted.epsilon_error);
-  EXPECT_EQ(adjusted.output_text, "p < 0.00000001");  // a not-a-number is not above 1e-08
-}
-
 }  // namespace
 }  // namespace tessarine::statistics

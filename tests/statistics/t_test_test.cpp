@@ -79,57 +79,5 @@ TEST(TTest, OneTailedHalvesOnlyP) {
   EXPECT_EQ(TTestTapeText(one, "."), " t(4)=1.225\r    p=0.1439\r");
 }
 
-struct ErrorCase {
-  const char* name;
-  std::vector<std::vector<double>> samples;
-  std::vector<int> ticked;  // box indices
-  bool unpaired;
-  TTestError error;
-};
-
-TEST(TTest, UserErrorsInTheirOrder) {
-  const std::vector<std::vector<double>> filled = {{1, 2}, {3}, {}, {4, 5}};
-  const ErrorCase cases[] = {
-      {"three_ticks", filled, {0, 1, 3}, true, TTestError::kNotTwoSamples},
-      {"no_tick", filled, {}, true, TTestError::kNotTwoSamples},
-      {"empty_before_paired_sizes", filled, {1, 2}, false, TTestError::kEmptySample},
-      {"paired_sizes_differ", filled, {0, 1}, false, TTestError::kPairedSizesDiffer},
-      {"unpaired_sizes_may_differ", filled, {0, 1}, true, TTestError::kNone},
-      {"paired_equal_sizes", filled, {0, 3}, false, TTestError::kNone},
-  };
-  for (const auto& c : cases) {
-    TTestChoice choice = Choice(c.unpaired);
-    choice.ticked.fill(false);
-    for (int box : c.ticked) choice.ticked[box] = true;
-    EXPECT_EQ(RunTTest(StoreOf(c.samples), choice, {}).error, c.error) << c.name;
-  }
-}
-
-TEST(TTest, DegenerateSamplesShowWhatFormatGives) {
-  Alerts alerts;
-  // Two single values leave no error degree of freedom: F is 0/0 and the continued
-  // fraction never settles on a not-a-number.
-  const TTestOutcome lone = RunTTest(StoreOf({{1}, {2}}), Choice(true), alerts.Box());
-  EXPECT_EQ(TTestResultText(lone, "."), "t (0) = NAN, p = NAN");
-  EXPECT_EQ(alerts.seen,
-            std::vector<std::string>{"BETACF Error: imax is too small or a & b are too large"});
-  const TTestOutcome flat = RunTTest(StoreOf({{1, 1}, {2, 2}}), Choice(true), {});
-  EXPECT_EQ(TTestResultText(flat, "."), "t (2) = INF, p = 0.0000");
-}
-
-// The paired arrays hold ten rows; the unpaired test takes the same samples.
-TEST(TTest, PairedStopsAtTheEleventhPair) {
-  std::vector<double> a, b;
-  for (int i = 1; i <= 11; ++i) {
-    a.push_back(i);
-    b.push_back(i * 1.5);
-  }
-  EXPECT_THROW(RunTTest(StoreOf({a, b}), Choice(false), {}), OutOfBoundsException);
-  EXPECT_EQ(RunTTest(StoreOf({a, b}), Choice(true), {}).error, TTestError::kNone);
-  a.pop_back();
-  b.pop_back();
-  EXPECT_EQ(RunTTest(StoreOf({a, b}), Choice(false), {}).error, TTestError::kNone);
-}
-
 }  // namespace
 }  // namespace tessarine::statistics

@@ -1,0 +1,134 @@
+// The Stats page on the desktop: values fed from the keyboard, each sheet opened
+// from the page, and the results read from the sheets' own widgets.
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "gui_fixture.hpp"
+#include "suites.hpp"
+#include "window_canvas.hpp"
+#include "window_dialog.hpp"
+
+namespace tessarine::desktop::testing {
+
+class StatisticsTest : public GuiSuite {
+  Q_OBJECT
+
+  // The Stats page on show, with 1 2 3 in sample 1, 2 3 4 in sample 2 and 3 4 5 in
+  // sample 3, typed with Shift+1 as the Input key.
+  void FeedSamples() {
+    f_->Click("ShowAdvancedFeaturesButton");
+    f_->WaitForResize();
+    f_->Calc().Get("CalcTabSelector").SetValue(2);  // the Stats page
+    const char* samples[] = {"1!2!3!", "2!3!4!", "3!4!5!"};
+    for (int i = 0; i < 3; ++i) {
+      f_->Calc().Get("CellNumberPopUp").SetListIndex(i);
+      f_->Type(QString::fromLatin1(samples[i]));
+    }
+    f_->Calc().Get("CellNumberPopUp").SetListIndex(0);
+  }
+
+  WindowDialog* Sheet(const char* name) {
+    WindowDialog* sheet = f_->App().DialogFor(name);
+    if (!sheet) QTest::qFail(name, __FILE__, __LINE__);
+    return sheet;
+  }
+
+  template <class W>
+  W* SheetWidget(const char* window, const char* control, int index = -1) {
+    WindowDialog* sheet = Sheet(window);
+    if (!sheet) return nullptr;
+    Window* model = f_->App().GetProgram().Windows().FindOpen(window);
+    Control* item = model ? model->FindControl(control, index) : nullptr;
+    W* widget = item ? qobject_cast<W*>(sheet->Canvas().WidgetFor(*item)) : nullptr;
+    if (!widget) QTest::qFail(control, __FILE__, __LINE__);
+    return widget;
+  }
+
+  void ShowComputation(int row) {
+    f_->Calc().Get("ComputePopUp").SetListIndex(row);
+    f_->Click("ShowComputationButton");
+  }
+
+ private slots:
+  void inputListsTheSampleAndClearsTheDisplay() {
+    FeedSamples();
+    auto* list = qobject_cast<QPlainTextEdit*>(f_->Widget("StatsEditField"));
+    QVERIFY(list);
+    QCOMPARE(list->toPlainText(), QStringLiteral("1, 2, 3, "));
+    QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
+    f_->Click("ButtonStatsDel");
+    QCOMPARE(list->toPlainText(), QStringLiteral("1, 2, "));
+  }
+
+  void descriptivesShowTheSample() {
+    FeedSamples();
+    ShowComputation(0);
+    auto* text = SheetWidget<QPlainTextEdit>("DescriptivesWindow", "DescriptivesEditField");
+    QVERIFY(text);
+    const QString shown = text->toPlainText();
+    for (const char* line : {"N=3", "Min=1", "Max=3", "Mean=2", "Med=2", "Var=1", "Sum=6"})
+      QVERIFY2(shown.contains(QLatin1String(line)), qPrintable(shown));
+    QTest::mouseClick(SheetWidget<QPushButton>("DescriptivesWindow", "DescriptivesCloseButton"),
+                      Qt::LeftButton);
+    QTRY_VERIFY(!f_->App().DialogFor("DescriptivesWindow"));
+  }
+
+  void ttestShowsTOnItsLabel() {
+    FeedSamples();
+    ShowComputation(2);
+    QTest::mouseClick(SheetWidget<QPushButton>("ttestWindow", "OKButton"), Qt::LeftButton);
+    auto* result = SheetWidget<QLabel>("ttestWindow", "ttestResultText");
+    QVERIFY(result);
+    QCOMPARE(result->text(), QStringLiteral("t (4) = 1.225, p = 0.2879"));
+    QVERIFY(result->isVisible());
+  }
+
+  void anovaErrorBringsAFreshSheetBack() {
+    FeedSamples();
+    ShowComputation(1);
+    QTest::mouseClick(SheetWidget<QPushButton>("ANOVAWindow", "CalculateButton"), Qt::LeftButton);
+    QCOMPARE(SheetWidget<QLabel>("ANOVAWindow", "ANOVAResultText")->text(),
+             QStringLiteral("F (2,6) = 3.000, p = 0.1250"));
+    QTest::mouseClick(SheetWidget<QCheckBox>("ANOVAWindow", "SampleNumberCheckBox", 2),
+                      Qt::LeftButton);
+    QTest::mouseClick(SheetWidget<QPushButton>("ANOVAWindow", "CalculateButton"), Qt::LeftButton);
+    QTRY_VERIFY(!f_->App().DialogFor("ANOVAWindow"));
+    QVERIFY(SheetWidget<QLabel>("StatsErrorWindow", "ErrorText")
+                ->text()
+                .startsWith(QStringLiteral("User Error. You must select three")));
+    QTest::mouseClick(SheetWidget<QPushButton>("StatsErrorWindow", "InputErrorCloseButton"),
+                      Qt::LeftButton);
+    QTRY_VERIFY(f_->App().DialogFor("ANOVAWindow"));
+    QVERIFY(SheetWidget<QCheckBox>("ANOVAWindow", "SampleNumberCheckBox", 2)->isChecked());
+  }
+
+  void probabilityFromTypedFields() {
+    FeedSamples();
+    f_->Click("ProbabilityButton");
+    const char* fields[] = {"FInputField", "dfnInputField", "dfdInputField"};
+    const char* typed[] = {"1", "1", "1"};
+    for (int i = 0; i < 3; ++i) {
+      auto* field = SheetWidget<QLineEdit>("ProbabilityWindow", fields[i]);
+      QVERIFY(field);
+      QTest::keyClicks(field, QString::fromLatin1(typed[i]));
+    }
+    QVERIFY(SheetWidget<QPushButton>("ProbabilityWindow", "CalculateButton")->isEnabled());
+    QTest::mouseClick(SheetWidget<QPushButton>("ProbabilityWindow", "CalculateButton"),
+                      Qt::LeftButton);
+    QCOMPARE(SheetWidget<QLabel>("ProbabilityWindow", "ProbabilityOutput")->text(),
+             QStringLiteral("p = 0.50000000"));
+  }
+};
+
+int RunStatisticsTests(int argc, char** argv) {
+  StatisticsTest suite;
+  return QTest::qExec(&suite, argc, argv);
+}
+
+}  // namespace tessarine::desktop::testing
+
+#include "statistics_test.moc"
