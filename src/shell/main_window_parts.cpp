@@ -1,8 +1,12 @@
 #include "shell/main_window_parts.hpp"
 
+#include "fractions/fractions_tab.hpp"
+
 namespace tessarine {
 
 // Each tab page's logic joins here as its subsystem lands, in the order of the tabs.
-void AddMainWindowParts(CalcWindow&, AppContext&) {}
+void AddMainWindowParts(CalcWindow& window, AppContext& app) {
+  window.AddPart(std::make_unique<FractionsTab>(window, app));
+}
 
 }  // namespace tessarine

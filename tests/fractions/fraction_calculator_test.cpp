@@ -42,11 +42,14 @@ void RunRows(const std::vector<Row>& rows) {
   for (const Row& row : rows) {
     const Operands& o = row.in;
     FractionCalculatorFields fields{o.w1, o.t1, o.b1, o.w2, o.t2, o.b2, "stale", "stale", "stale"};
-    const FractionFeedback feedback = FractionCalculateButtonAction(fields, row.op, row.separator);
+    int messages = 0;
+    const FractionFeedback feedback = FractionCalculateButtonAction(
+        fields, row.op, row.separator, [&](const FractionCalculatorFields&, const std::string& m) {
+          EXPECT_EQ(m, kOneNegativeValueMessage) << row.name;
+          ++messages;
+        });
     Expect(fields, row.out, row.name);
-    EXPECT_EQ(feedback.messages,
-              std::vector<std::string>(row.messages, std::string(kOneNegativeValueMessage)))
-        << row.name;
+    EXPECT_EQ(messages, row.messages) << row.name;
     EXPECT_EQ(feedback.sounds, std::vector<FractionSound>{FractionSound::kPlayResultSound})
         << row.name;
   }
@@ -152,11 +155,22 @@ TEST(FractionCalculatorTest, WrapsNear2To31) {
   // clang-format on
 }
 
+// Behind each box the user sees the numerators as they stand then: the first box
+// before any change, the second after the first numerator lost its minus.
+TEST(FractionCalculatorTest, EachBoxSeesTheFieldsOfItsMoment) {
+  FractionCalculatorFields f{"-1", "-1", "2", "-2", "-1", "3", "", "", ""};
+  std::vector<std::string> seen;
+  FractionCalculateButtonAction(f, "+", ".",
+                                [&](const FractionCalculatorFields& now, const std::string&) {
+                                  seen.push_back(now.numtop1 + " " + now.numtop2);
+                                });
+  EXPECT_EQ(seen, (std::vector<std::string>{"-1 -1", "1 -1"}));
+}
+
 TEST(FractionCalculatorTest, ClearEmptiesTheNineFieldsWithASound) {
   FractionCalculatorFields f{"1", "2", "3", "4", "5", "6", "7", "8", "9"};
   const FractionFeedback feedback = FractionClearButtonAction(f);
   Expect(f, {}, "clear");
-  EXPECT_TRUE(feedback.messages.empty());
   EXPECT_EQ(feedback.sounds, std::vector<FractionSound>{FractionSound::kPlayClearSound});
 }
 
