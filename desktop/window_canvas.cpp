@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -112,6 +113,23 @@ class MouseForwarder final : public QObject {
     control_.Owner().SetMousePosition(control_.Left() + p.x(), control_.Top() + p.y());
   }
 
+  Control& control_;
+};
+
+// Keys typed into a text field go to its control's KeyDown first, which may swallow
+// them; a key with no text (an arrow, a modifier) is no character and passes.
+class KeyForwarder final : public QObject {
+ public:
+  KeyForwarder(Control& control, QObject* parent) : QObject(parent), control_(control) {}
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const QString text = static_cast<QKeyEvent*>(event)->text();
+    return !text.isEmpty() && control_.UserKeyDown(text.toStdString());
+  }
+
+ private:
   Control& control_;
 };
 
@@ -268,6 +286,7 @@ QWidget* WindowCanvas::Make(Control& control) {
       edit->setFocusPolicy(Qt::ClickFocus);  // a field takes the keys only when clicked
       connect(edit, &QLineEdit::textEdited, this,
               [c](const QString& text) { c->UserSetText(text.toStdString()); });
+      edit->installEventFilter(new KeyForwarder(control, edit));
       widget = edit;
       break;
     }

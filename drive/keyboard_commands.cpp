@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "names.hpp"
+#include "runtime/text.hpp"
 #include "shell/key_chords.hpp"
 
 namespace tessarine::drive {
@@ -77,6 +78,23 @@ void TypeKey(Driver& driver, const std::string& text,
   window.KeyDown(text);
 }
 
+// One key typed into a focused text field. The field's KeyDown sees it first; a key
+// it lets through edits the text at the caret as the field does: a backspace takes
+// the selection or the character before the caret, other control keys change nothing.
+void TypeIntoField(Control& field, const std::string& key) {
+  if (field.UserKeyDown(key) || !field.Enabled()) return;
+  if (key == "\b") {
+    if (field.SelLength() == 0) {
+      if (field.SelStart() == 0) return;
+      field.UserSetSelection(field.SelStart() - 1, 1);
+    }
+  } else if (Asc(key) < 32) {
+    return;
+  }
+  const std::string typed = key == "\b" ? "" : key;
+  field.Owner().Dispatch(field.Name() + "_TextChange", [&] { field.SetSelText(typed); });
+}
+
 }  // namespace
 
 void AddKeyboardCommands(Driver& driver) {
@@ -88,6 +106,17 @@ void AddKeyboardCommands(Driver& driver) {
   driver.AddCommand("type", [&driver](const std::vector<Word>& args, std::ostream&) {
     if (args.empty()) throw ScriptError("usage: type TEXT...");
     for (const Word& text : args) TypeKey(driver, text.text, {});
+  });
+  // Keys typed into a text field one character at a time, the caret first put at
+  // the end of its text as a click after the text puts it.
+  driver.AddCommand("keyin", [&driver](const std::vector<Word>& args, std::ostream&) {
+    if (args.size() != 2) throw ScriptError("usage: keyin CONTROL TEXT");
+    Control* field = Resolve(driver.Program(), args[0].text).control;
+    if (!field || !IsEditable(field->Kind()))
+      throw ScriptError(args[0].text + " is not a text field");
+    field->UserSetSelection(Len(field->Text()), 0);
+    const std::string& text = args[1].text;
+    for (int i = 1; i <= Len(text); ++i) TypeIntoField(*field, Mid(text, i, 1));
   });
   driver.AddCommand("chord", [&driver](const std::vector<Word>& args, std::ostream&) {
     if (args.empty()) throw ScriptError("usage: chord KEY [ctrl] [alt] [shift]");

@@ -13,13 +13,14 @@ namespace tessarine {
 namespace {
 
 // A mixed number is negative when its whole part or its numerator is, read as
-// integers; a minus on both is reported and taken off the numerator.
-bool ValidateOperand(std::string_view whole, std::string& numtop, std::string_view sep,
-                     FractionFeedback& feedback) {
+// integers; a minus on both is reported and then taken off the numerator.
+bool ValidateOperand(const FractionCalculatorFields& fields, std::string_view whole,
+                     std::string& numtop, std::string_view sep,
+                     const FractionMessageBox& message_box) {
   const std::int32_t w = ToInt32(CDbl(whole, sep));
   const std::int32_t t = ToInt32(CDbl(numtop, sep));
   if (w < 0 && t < 0) {
-    feedback.messages.emplace_back(kOneNegativeValueMessage);
+    if (message_box) message_box(fields, std::string(kOneNegativeValueMessage));
     numtop = Str(WrapNeg(t));
   }
   return w < 0 || t < 0;
@@ -102,11 +103,11 @@ void Divide(FractionCalculatorFields& f, std::int32_t n1, std::int32_t b1, std::
 }  // namespace
 
 FractionFeedback FractionCalculateButtonAction(FractionCalculatorFields& f,
-                                               std::string_view operator_text,
-                                               std::string_view sep) {
+                                               std::string_view operator_text, std::string_view sep,
+                                               const FractionMessageBox& message_box) {
   FractionFeedback feedback;
-  const bool negative1 = ValidateOperand(f.whole1, f.numtop1, sep, feedback);
-  const bool negative2 = ValidateOperand(f.whole2, f.numtop2, sep, feedback);
+  const bool negative1 = ValidateOperand(f, f.whole1, f.numtop1, sep, message_box);
+  const bool negative2 = ValidateOperand(f, f.whole2, f.numtop2, sep, message_box);
   if (CDbl(f.numbottom1, sep) == 0) f.numbottom1 = "1";
   if (CDbl(f.numbottom2, sep) == 0) f.numbottom2 = "1";
   f.ResultWhole.clear();
@@ -157,7 +158,7 @@ FractionFeedback FractionClearButtonAction(FractionCalculatorFields& f) {
                              &f.numbottom2, &f.ResultWhole, &f.ResultNumTop, &f.ResultNumBottom}) {
     field->clear();
   }
-  return {{}, {FractionSound::kPlayClearSound}};
+  return {{FractionSound::kPlayClearSound}};
 }
 
 bool TransferFractionResultToInput(FractionCalculatorFields& f) {

@@ -2,6 +2,7 @@
 // worked in 32-bit integers on the fields' texts, which are read back at each step.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,12 +22,17 @@ enum class FractionSound {
   kPlayClearSound,
 };
 
-// What a button asks of the window besides its fields' texts: message boxes to show,
-// in order, then sounds to play. The calculator neither speaks nor writes to the tape.
+// The sounds a button asks of the window once its fields are written. The calculator
+// neither speaks nor writes to the tape.
 struct FractionFeedback {
-  std::vector<std::string> messages;
   std::vector<FractionSound> sounds;
 };
+
+// Shows a modal message box in the middle of a calculation. The fields as they stand
+// at that moment are what the user sees behind the box, so the window puts them on
+// screen first.
+using FractionMessageBox =
+    std::function<void(const FractionCalculatorFields& fields, const std::string& message)>;
 
 inline constexpr std::string_view kOneNegativeValueMessage =
     "There can only be one negative value for each mixed number.";
@@ -34,13 +40,15 @@ inline constexpr std::string_view kOneNegativeValueMessage =
 // The operator popup's rows: plus, en dash, letter x, division sign.
 inline constexpr std::string_view kFractionOperators[] = {"+", "\u2013", "x", "\u00F7"};
 
-// Calculate: validates both operands (a message for each with two minus signs),
+// Calculate: validates both operands (a message box for each with two minus signs,
+// shown before its numerator loses the minus and so after the first operand's did),
 // applies the operator named by operator_text (the popup's text; any other text
 // computes nothing) and reduces the result. The decimal separator is the system's,
 // for the fields read with CDbl.
 FractionFeedback FractionCalculateButtonAction(FractionCalculatorFields& fields,
                                                std::string_view operator_text,
-                                               std::string_view decimal_separator);
+                                               std::string_view decimal_separator,
+                                               const FractionMessageBox& message_box);
 
 // Clear: empties the nine fields; the operator keeps its row.
 FractionFeedback FractionClearButtonAction(FractionCalculatorFields& fields);

@@ -4,6 +4,7 @@
 
 #include "conversion/convert_tab.hpp"
 #include "statistics/stats_tab.hpp"
+#include "fractions/fractions_tab.hpp"
 
 namespace tessarine {
 
@@ -11,6 +12,7 @@ namespace tessarine {
 void AddMainWindowParts(CalcWindow& window, AppContext& app) {
   window.AddPart(std::make_unique<ConvertTab>(window, app));
   window.AddPart(std::make_unique<statistics::StatsTab>(window, app));
+  window.AddPart(std::make_unique<FractionsTab>(window, app));
 }
 
 }  // namespace tessarine

@@ -28,6 +28,7 @@ int main(int argc, char** argv) {
     std::string names;
     for (const auto& [name, run] : suites) names += (names.empty() ? "" : "|") + name;
     std::fprintf(stderr, "usage: gui_tests {%s} [Qt Test options]\n", names.c_str());
+      {"fractions", tessarine::desktop::testing::RunFractionsTests},
     return 2;
   }
   const auto& run = suites.at(argv[1]);

@@ -12,5 +12,6 @@ int RunPrintingTests(int argc, char** argv);
 int RunFeedbackTests(int argc, char** argv);
 int RunConversionTests(int argc, char** argv);
 int RunStatisticsTests(int argc, char** argv);
+int RunFractionsTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing
