@@ -1,8 +1,14 @@
 #include "shell/main_window_parts.hpp"
 
+#include <memory>
+
+#include "expression/expression_tab.hpp"
+
 namespace tessarine {
 
 // Each tab page's logic joins here as its subsystem lands, in the order of the tabs.
-void AddMainWindowParts(CalcWindow&, AppContext&) {}
+void AddMainWindowParts(CalcWindow& window, AppContext& app) {
+  window.AddPart(std::make_unique<ExpressionTab>(window, app));
+}
 
 }  // namespace tessarine
