@@ -274,8 +274,10 @@ QWidget* WindowCanvas::Make(Control& control) {
       connect(edit, &QLineEdit::textEdited, this, [this, c, edit](const QString& text) {
         UserEdited(*c, edit, text.toStdString());
       });
-      connect(edit, &QLineEdit::cursorPositionChanged, this, [this, c, edit] { UserMovedCaret(*c, edit); });
-      connect(edit, &QLineEdit::selectionChanged, this, [this, c, edit] { UserMovedCaret(*c, edit); });
+      connect(edit, &QLineEdit::cursorPositionChanged, this,
+              [this, c, edit] { UserMovedCaret(*c, edit); });
+      connect(edit, &QLineEdit::selectionChanged, this,
+              [this, c, edit] { UserMovedCaret(*c, edit); });
       widget = edit;
       break;
     }
@@ -285,8 +287,10 @@ QWidget* WindowCanvas::Make(Control& control) {
       connect(edit, &QPlainTextEdit::textChanged, this, [this, c, edit] {
         if (!applying_) UserEdited(*c, edit, FromScreen(edit->toPlainText()));
       });
-      connect(edit, &QPlainTextEdit::cursorPositionChanged, this, [this, c, edit] { UserMovedCaret(*c, edit); });
-      connect(edit, &QPlainTextEdit::selectionChanged, this, [this, c, edit] { UserMovedCaret(*c, edit); });
+      connect(edit, &QPlainTextEdit::cursorPositionChanged, this,
+              [this, c, edit] { UserMovedCaret(*c, edit); });
+      connect(edit, &QPlainTextEdit::selectionChanged, this,
+              [this, c, edit] { UserMovedCaret(*c, edit); });
       // The clicks land on the area's viewport, not on the area.
       edit->viewport()->installEventFilter(new MouseForwarder(control, edit->viewport()));
       widget = edit;
