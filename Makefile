@@ -102,16 +102,19 @@ bench: deps
 	build-release/bench/tessarine_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true && \
 	bench/startup/run_startup_bench.sh -n $(STARTUP_ROUNDS) $$startup_args build-release
 
-# Fuzzes the preferences reader with libFuzzer for FUZZ_SECONDS (default 60); new
-# inputs that find new paths go to a scratch corpus, the saved one is only read.
+# Fuzzes the preferences reader, then the expression engine, with libFuzzer for
+# FUZZ_SECONDS each (default 60); new inputs that find new paths go to scratch
+# corpora, the saved ones are only read.
 FUZZ_SECONDS ?= 60
 fuzz: deps
 	@cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
 	  -DTESSARINE_FUZZ=ON > build-fuzz.configure.log 2>&1 || { cat build-fuzz.configure.log; exit 1; }
-	@cmake --build build-fuzz -j $(JOBS) --target prefs_reader_fuzz
-	@mkdir -p build-fuzz/corpus
+	@cmake --build build-fuzz -j $(JOBS) --target prefs_reader_fuzz expression_fuzz
+	@mkdir -p build-fuzz/corpus build-fuzz/expression_corpus
 	@build-fuzz/tests/fuzz/prefs_reader_fuzz -max_total_time=$(FUZZ_SECONDS) -max_len=4096 \
 	  build-fuzz/corpus tests/fuzz/corpus/prefs_reader
+	@build-fuzz/tests/expression/expression_fuzz -max_total_time=$(FUZZ_SECONDS) -max_len=4096 \
+	  build-fuzz/expression_corpus tests/expression/corpus
 
 clean:
 	rm -rf build build-san build-release build-fuzz *.configure.log

@@ -124,6 +124,16 @@ void DesktopApp::ClearFocus() {
   if (main_view_) main_view_->ClearKeyboardFocus();
 }
 
+void DesktopApp::SetFocus(const Control& control) {
+  QWidget* widget = nullptr;
+  if (control.Owner().Name() == CalcWindow::kName) {
+    if (main_view_) widget = main_view_->Canvas().WidgetFor(control);
+  } else if (WindowDialog* dialog = DialogFor(control.Owner().Name())) {
+    widget = dialog->Canvas().WidgetFor(control);
+  }
+  if (widget) widget->setFocus(Qt::OtherFocusReason);
+}
+
 void DesktopApp::CloseAllWindows() {
   for (auto& [name, dialog] : dialogs_)
     if (dialog) dialog->CloseFromProgram();

@@ -45,6 +45,7 @@ class DesktopApp final : public WindowHost {
   void CloseWindow(const std::string& window_name) override;
   QWidget* DialogParent() override;
   void ClearFocus() override;
+  void SetFocus(const Control& control) override;
   void CloseAllWindows() override;
   QObject* KeyTarget() override;
 

@@ -246,6 +246,10 @@ void QtPlatform::ClearFocus() {
   if (host_) host_->ClearFocus();
 }
 
+void QtPlatform::SetFocus(const Control& control) {
+  if (host_) host_->SetFocus(control);
+}
+
 void QtPlatform::RequestQuit() {
   if (quit_requested_) return;
   quit_requested_ = true;

@@ -48,6 +48,7 @@ class WindowHost {
   // The window that message boxes belong to (nullptr: none yet).
   virtual QWidget* DialogParent() = 0;
   virtual void ClearFocus() = 0;
+  virtual void SetFocus(const Control& control) = 0;
   // Closes every window of the program, the main window last.
   virtual void CloseAllWindows() = 0;
   // Where keys go that were typed into a window that has gone since (the progress
@@ -126,6 +127,7 @@ class QtPlatform final : public QObject,
   int ScreenWidth() const override;
   int ScreenHeight() const override;
   void ClearFocus() override;
+  void SetFocus(const Control& control) override;
   std::optional<std::string> AskSaveFile() override;
   std::optional<std::string> PageSetupDialog(const std::string& current) override;
   bool PrintText(const PrintJob& job) override;

@@ -25,6 +25,7 @@
 #include "control_look.hpp"
 #include "control_widgets.hpp"
 #include "key_caption.hpp"
+#include "text_selection.hpp"
 #include "runtime/text.hpp"
 
 namespace tessarine::desktop {
@@ -40,6 +41,13 @@ QString ToScreen(const std::string& text) {
   s.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
   s.replace(QLatin1Char('\r'), QLatin1Char('\n'));
   return s;
+}
+
+// What a text widget shows, as the model's text shows on screen.
+QString CurrentText(QWidget* widget) {
+  if (auto* edit = qobject_cast<QLineEdit*>(widget)) return edit->text();
+  if (auto* area = qobject_cast<QPlainTextEdit*>(widget)) return area->toPlainText();
+  return {};
 }
 
 std::string FromScreen(const QString& text) {
@@ -284,8 +292,13 @@ QWidget* WindowCanvas::Make(Control& control) {
     case ControlKind::NumberOnlyEditField: {
       auto* edit = new QLineEdit(&canvas_);
       edit->setFocusPolicy(Qt::ClickFocus);  // a field takes the keys only when clicked
-      connect(edit, &QLineEdit::textEdited, this,
-              [c](const QString& text) { c->UserSetText(text.toStdString()); });
+      connect(edit, &QLineEdit::textEdited, this, [this, c, edit](const QString& text) {
+        UserEdited(*c, edit, text.toStdString());
+      });
+      connect(edit, &QLineEdit::cursorPositionChanged, this,
+              [this, c, edit] { UserMovedCaret(*c, edit); });
+      connect(edit, &QLineEdit::selectionChanged, this,
+              [this, c, edit] { UserMovedCaret(*c, edit); });
       edit->installEventFilter(new KeyForwarder(control, edit));
       widget = edit;
       break;
@@ -294,16 +307,14 @@ QWidget* WindowCanvas::Make(Control& control) {
       auto* edit = new QPlainTextEdit(&canvas_);
       edit->setFocusPolicy(Qt::ClickFocus);
       connect(edit, &QPlainTextEdit::textChanged, this, [this, c, edit] {
-        if (!applying_) c->UserSetText(FromScreen(edit->toPlainText()));
+        if (!applying_) UserEdited(*c, edit, FromScreen(edit->toPlainText()));
       });
-      // The user's selection, in the model's characters, for the menu's Copy.
-      connect(edit, &QPlainTextEdit::selectionChanged, this, [c, edit] {
-        const QTextCursor cursor = edit->textCursor();
-        const QString text = edit->toPlainText();
-        const int start = Len(text.left(cursor.selectionStart()).toStdString());
-        const int end = Len(text.left(cursor.selectionEnd()).toStdString());
-        c->UserSetSelection(start, end - start);
-      });
+      connect(edit, &QPlainTextEdit::cursorPositionChanged, this,
+              [this, c, edit] { UserMovedCaret(*c, edit); });
+      connect(edit, &QPlainTextEdit::selectionChanged, this,
+              [this, c, edit] { UserMovedCaret(*c, edit); });
+      // The clicks land on the area's viewport, not on the area.
+      edit->viewport()->installEventFilter(new MouseForwarder(control, edit->viewport()));
       widget = edit;
       break;
     }
@@ -351,12 +362,39 @@ QWidget* WindowCanvas::Make(Control& control) {
   return widget;
 }
 
+void WindowCanvas::UserEdited(Control& control, QWidget* widget, std::string text) {
+  // The widget's caret is already where the edit left it; the model's selection
+  // follows once its text has, and the model's clamping of the old selection to the
+  // new text must not move the caret meanwhile.
+  user_editing_ = true;
+  control.UserSetText(std::move(text));
+  user_editing_ = false;
+  if (!widget) return;
+  if (CurrentText(widget) == ToScreen(control.Text())) {
+    const auto [start, length] = ReadSelection(widget, control);
+    control.UserSetSelection(start, length);
+  } else {
+    // A handler rewrote the text: the model's selection is what shows.
+    applying_ = true;
+    ShowSelection(widget, control);
+    applying_ = false;
+  }
+}
+
+void WindowCanvas::UserMovedCaret(Control& control, QWidget* widget) {
+  if (applying_ || user_editing_) return;
+  if (CurrentText(widget) != ToScreen(control.Text())) return;  // the text follows first
+  const auto [start, length] = ReadSelection(widget, control);
+  control.UserSetSelection(start, length);
+}
+
 void WindowCanvas::ApplyAll(const Bound& bound) {
   applying_ = true;
   ApplyRows(bound);
   ApplyListIndex(bound);
   ApplyText(bound);
   ApplyValue(bound);
+  ShowSelection(bound.widget, *bound.control);
   ApplyLook(bound);
   Apply(bound, Property::Enabled);
   Apply(bound, Property::HelpTag);
@@ -405,7 +443,9 @@ void WindowCanvas::Apply(const Bound& bound, Property property) {
     case Property::Maximum:
       if (auto* bar = qobject_cast<QProgressBar*>(widget)) bar->setMaximum(control.Maximum());
       break;
-    case Property::Selection: break;  // the field keeps the caret the user put there
+    case Property::Selection:
+      if (!user_editing_) ShowSelection(widget, control);
+      break;
   }
 }
 
@@ -422,7 +462,10 @@ void WindowCanvas::ApplyText(const Bound& bound) {
     label->setAccessibleName(name);
   } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
     const QString text = Q(control.Text());
-    if (edit->text() != text) edit->setText(text);
+    if (edit->text() != text) {
+      edit->setText(text);
+      ShowSelection(edit, control);  // setText put the caret at the end
+    }
     edit->setAccessibleName(name);
   } else if (auto* area = qobject_cast<QPlainTextEdit*>(widget)) {
     const QString text = ToScreen(control.Text());
@@ -430,6 +473,7 @@ void WindowCanvas::ApplyText(const Bound& bound) {
       const bool was = applying_;
       applying_ = true;
       area->setPlainText(text);
+      ShowSelection(area, control);  // setPlainText put the caret at the start
       applying_ = was;
     }
     area->setAccessibleName(name);

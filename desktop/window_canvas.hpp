@@ -17,6 +17,7 @@
 #include <QPointer>
 #include <QRect>
 #include <functional>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -59,6 +60,9 @@ class WindowCanvas final : public QObject {
   void OnChanged(Control* control, Property property);
   void SyncVisibility();
   QWidget* Make(Control& control);
+  // The user typed into a text widget, or moved its caret or selection.
+  void UserEdited(Control& control, QWidget* widget, std::string text);
+  void UserMovedCaret(Control& control, QWidget* widget);
   void ApplyAll(const Bound& bound);
   void Apply(const Bound& bound, Property property);
   void ApplyText(const Bound& bound);
@@ -78,6 +82,7 @@ class WindowCanvas final : public QObject {
   const Control* tab_panel_ = nullptr;
   const Control* page_panel_ = nullptr;
   bool applying_ = false;  // a widget is being set from the model: its signals are no user's
+  bool user_editing_ = false;  // the model takes the user's text: its selection waits
 };
 
 }  // namespace tessarine::desktop

@@ -51,6 +51,9 @@ std::vector<std::pair<std::string, std::function<std::string(const Control&)>>> 
       {"Height", [](const Control& c) { return JsonNumber(c.Height()); }},
       {"TabPage", [](const Control& c) { return JsonNumber(c.TabPage()); }},
       {"PanelPage", [](const Control& c) { return JsonNumber(c.PanelPage()); }},
+      {"SelStart", [](const Control& c) { return JsonNumber(c.SelStart()); }},
+      {"SelLength", [](const Control& c) { return JsonNumber(c.SelLength()); }},
+      {"SelText", [](const Control& c) { return JsonString(c.SelText()); }},
   };
 }
 
@@ -160,6 +163,14 @@ void SetProperty(const Target& target, const std::string& property, const Word& 
   } else if (StrEq(property, "TextSize")) {
     const int v = IntWord(value);
     assign = [&c, v] { c.SetTextSize(v); };
+  } else if (StrEq(property, "SelStart")) {
+    const int v = IntWord(value);
+    assign = [&c, v] { c.SetSelStart(v); };
+  } else if (StrEq(property, "SelLength")) {
+    const int v = IntWord(value);
+    assign = [&c, v] { c.SetSelLength(v); };
+  } else if (StrEq(property, "SelText")) {
+    assign = [&] { c.SetSelText(value.text); };
   } else {
     throw ScriptError("cannot set property " + property);
   }

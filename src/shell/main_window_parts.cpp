@@ -5,6 +5,7 @@
 #include "conversion/convert_tab.hpp"
 #include "statistics/stats_tab.hpp"
 #include "fractions/fractions_tab.hpp"
+#include "expression/expression_tab.hpp"
 
 namespace tessarine {
 
@@ -13,6 +14,7 @@ void AddMainWindowParts(CalcWindow& window, AppContext& app) {
   window.AddPart(std::make_unique<ConvertTab>(window, app));
   window.AddPart(std::make_unique<statistics::StatsTab>(window, app));
   window.AddPart(std::make_unique<FractionsTab>(window, app));
+  window.AddPart(std::make_unique<ExpressionTab>(window, app));
 }
 
 }  // namespace tessarine

@@ -23,12 +23,13 @@ int main(int argc, char** argv) {
       {"feedback", tessarine::desktop::testing::RunFeedbackTests},
       {"conversion", tessarine::desktop::testing::RunConversionTests},
       {"statistics", tessarine::desktop::testing::RunStatisticsTests},
+      {"fractions", tessarine::desktop::testing::RunFractionsTests},
+      {"expression", tessarine::desktop::testing::RunExpressionTests},
   };
   if (argc < 2 || !suites.count(argv[1])) {
     std::string names;
     for (const auto& [name, run] : suites) names += (names.empty() ? "" : "|") + name;
     std::fprintf(stderr, "usage: gui_tests {%s} [Qt Test options]\n", names.c_str());
-      {"fractions", tessarine::desktop::testing::RunFractionsTests},
     return 2;
   }
   const auto& run = suites.at(argv[1]);

@@ -13,5 +13,6 @@ int RunFeedbackTests(int argc, char** argv);
 int RunConversionTests(int argc, char** argv);
 int RunStatisticsTests(int argc, char** argv);
 int RunFractionsTests(int argc, char** argv);
+int RunExpressionTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing

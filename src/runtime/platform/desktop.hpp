@@ -8,6 +8,8 @@
 
 namespace tessarine {
 
+class Control;
+
 class Desktop {
  public:
   virtual ~Desktop() = default;
@@ -46,6 +48,9 @@ class Desktop {
   // Takes the keyboard focus from whatever control holds it, so that keys go on
   // reaching the window's keyboard map.
   virtual void ClearFocus() = 0;
+  // Gives the keyboard focus to a text field of a window on show. Headless, no
+  // control holds the focus.
+  virtual void SetFocus(const Control&) {}
 };
 
 }  // namespace tessarine
