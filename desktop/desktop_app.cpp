@@ -8,6 +8,7 @@
 #include "calculator/calc_window.hpp"
 #include "control_look.hpp"
 #include "main_window_view.hpp"
+#include "window_canvas.hpp"
 #include "window_dialog.hpp"
 
 namespace tessarine::desktop {

@@ -20,11 +20,13 @@ TEST(PreferenceKeys, EachKeyIsDeclaredOnce) {
     EXPECT_TRUE(seen.insert(folded).second) << key.name << " is declared twice";
   }
   // No plain key may be read as an indexed one's member ("SavedStorageValue1").
-  for (const PrefKeyInfo& indexed : AllPreferenceKeys())
-    if (indexed.indexed)
-      for (const PrefKeyInfo& key : AllPreferenceKeys())
-        EXPECT_FALSE(!key.indexed && StrEq(Left(key.name, Len(indexed.name)), indexed.name))
-            << key.name << " clashes with " << indexed.name;
+  for (const PrefKeyInfo& indexed : AllPreferenceKeys()) {
+    if (!indexed.indexed) continue;
+    for (const PrefKeyInfo& key : AllPreferenceKeys()) {
+      EXPECT_FALSE(!key.indexed && StrEq(Left(key.name, Len(indexed.name)), indexed.name))
+          << key.name << " clashes with " << indexed.name;
+    }
+  }
 }
 
 TEST(PreferenceKeys, AFirstReadGivesTheDefaultAndKeepsIt) {
