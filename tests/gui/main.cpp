@@ -21,9 +21,10 @@ int main(int argc, char** argv) {
       {"view", tessarine::desktop::testing::RunViewTests},
       {"printing", tessarine::desktop::testing::RunPrintingTests},
       {"feedback", tessarine::desktop::testing::RunFeedbackTests},
+      {"http", tessarine::desktop::testing::RunHttpTests},
   };
   if (argc < 2 || !suites.count(argv[1])) {
-    std::fprintf(stderr, "usage: gui_tests {keypad|modes|menus|loops|view|printing|feedback} [Qt Test options]\n");
+    std::fprintf(stderr, "usage: gui_tests {keypad|modes|menus|loops|view|printing|feedback|http} [Qt Test options]\n");
     return 2;
   }
   const auto& run = suites.at(argv[1]);

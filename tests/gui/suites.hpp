@@ -10,5 +10,6 @@ int RunLoopsTests(int argc, char** argv);
 int RunViewTests(int argc, char** argv);
 int RunPrintingTests(int argc, char** argv);
 int RunFeedbackTests(int argc, char** argv);
+int RunHttpTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing
