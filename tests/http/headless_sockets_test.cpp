@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -25,10 +26,12 @@ class Harness {
  public:
   explicit Harness(bool network) {
     if (network) headless.ConnectSockets(sockets, [this](int ms) { return sockets.Pump(ms); });
-    http.PageReceived = [this](const std::string&, const std::string& page, bool) {
+    // The client's socket is made now, from the factory connected above.
+    http = std::make_unique<BasicHTTP>(headless.platform().sockets, headless.platform().clock);
+    http->PageReceived = [this](const std::string&, const std::string& page, bool) {
       outcome = "Page " + page;
     };
-    http.TCPError = [this](int code) { outcome = "TCPError " + std::to_string(code); };
+    http->TCPError = [this](int code) { outcome = "TCPError " + std::to_string(code); };
   }
   // Runs the network until the owner has heard back; a little longer when it has,
   // so that a stray late event shows in the log.
@@ -56,7 +59,7 @@ class Harness {
 
   PosixSocketFactory sockets;
   HeadlessPlatform headless;
-  BasicHTTP http{headless.platform().sockets, headless.platform().clock};
+  std::unique_ptr<BasicHTTP> http;
   std::string outcome;
 };
 
@@ -88,7 +91,7 @@ TEST(HeadlessSockets, LogWhatTheConnectionDid) {
     ScriptedServer server({c.reply});
     Harness h(true);
     const std::string target = "127.0.0.1:" + std::to_string(server.port());
-    h.http.Get("http://" + target + "/rates.txt");
+    h.http->Get("http://" + target + "/rates.txt");
     h.Run();
     EXPECT_EQ(h.outcome, c.outcome);
     ASSERT_EQ(server.Requests().size(), 1u);
@@ -114,7 +117,7 @@ TEST(HeadlessSockets, FailuresToConnectReachTheLogAndTheOwner) {
     SCOPED_TRACE(c.name);
     Harness h(c.network);
     const std::string target = "127.0.0.1:" + std::to_string(c.port);
-    h.http.Get("http://" + target + "/");
+    h.http->Get("http://" + target + "/");
     h.Run();
     EXPECT_EQ(h.outcome, "TCPError " + c.code);
     EXPECT_EQ(h.SocketLog(), (Lines{"connect " + target, "socketerror " + c.code}));
@@ -131,11 +134,11 @@ TEST(HeadlessSockets, NetMovesVirtualTimeWithRealTime) {
   EXPECT_LT(h.headless.NowMicroseconds(), 1000000);
   // A stalled server keeps the socket busy for the whole time given, and virtual
   // time moves by exactly that much.
-  h.http.Get("http://127.0.0.1:" + std::to_string(server.port()) + "/");
+  h.http->Get("http://127.0.0.1:" + std::to_string(server.port()) + "/");
   const std::int64_t before = h.headless.NowMicroseconds();
   EXPECT_TRUE(h.headless.Net(60));
   EXPECT_EQ(h.headless.NowMicroseconds() - before, 60000);
-  h.http.Stop();
+  h.http->Stop();
 }
 
 TEST(ServerOverride, ReplacesHostAndPortOnly) {

@@ -29,7 +29,7 @@ struct Platform {
   std::string decimal_separator = ".";
   // "host:port" that takes the place of the maker's server in every request the
   // program makes (ApplyServerOverride in http/); empty: the maker's own.
-  std::string server_override;
+  std::string server_override = {};
 };
 
 }  // namespace tessarine
