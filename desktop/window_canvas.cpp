@@ -375,6 +375,7 @@ void WindowCanvas::Apply(const Bound& bound, Property property) {
     case Property::Maximum:
       if (auto* bar = qobject_cast<QProgressBar*>(widget)) bar->setMaximum(control.Maximum());
       break;
+    case Property::Selection: break;  // the widget keeps the caret it has
   }
 }
 

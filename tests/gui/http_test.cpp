@@ -24,7 +24,7 @@ class LoopbackServer : public QObject {
  public:
   LoopbackServer(QByteArray reply, bool reset) : reply_(std::move(reply)) {
     server_.listen(QHostAddress::LocalHost);
-    connect(&server_, &QTcpServer::newConnection, this, [this] {
+    connect(&server_, &QTcpServer::newConnection, this, [this, reset] {
       while (QTcpSocket* peer = server_.nextPendingConnection()) {
         connect(peer, &QTcpSocket::readyRead, peer, [this, peer, reset] {
           request_ += peer->readAll();
