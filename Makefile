@@ -109,12 +109,14 @@ FUZZ_SECONDS ?= 60
 fuzz: deps
 	@cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
 	  -DTESSARINE_FUZZ=ON > build-fuzz.configure.log 2>&1 || { cat build-fuzz.configure.log; exit 1; }
-	@cmake --build build-fuzz -j $(JOBS) --target prefs_reader_fuzz expression_fuzz
-	@mkdir -p build-fuzz/corpus build-fuzz/expression_corpus
+	@cmake --build build-fuzz -j $(JOBS) --target prefs_reader_fuzz expression_fuzz http_reply_fuzz
+	@mkdir -p build-fuzz/corpus build-fuzz/expression_corpus build-fuzz/http_corpus
 	@build-fuzz/tests/fuzz/prefs_reader_fuzz -max_total_time=$(FUZZ_SECONDS) -max_len=4096 \
 	  build-fuzz/corpus tests/fuzz/corpus/prefs_reader
 	@build-fuzz/tests/expression/expression_fuzz -max_total_time=$(FUZZ_SECONDS) -max_len=4096 \
 	  build-fuzz/expression_corpus tests/expression/corpus
+	@build-fuzz/tests/http/http_reply_fuzz -max_total_time=$(FUZZ_SECONDS) \
+	  build-fuzz/http_corpus tests/http/corpus
 
 clean:
 	rm -rf build build-san build-release build-fuzz *.configure.log

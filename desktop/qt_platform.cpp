@@ -67,7 +67,7 @@ constexpr std::int64_t kWaitingLoopNs = 2'000;
 
 QtPlatform::QtPlatform(const std::string& preferences_folder)
     : files_(preferences_folder),
-      platform_{*this, *this, *this, *this, *this, *this, files_, DecimalSeparator()} {
+      platform_{*this, *this, *this, *this, *this, *this, files_, sockets_, DecimalSeparator()} {
   elapsed_.start();
   qApp->installEventFilter(this);
   flush_timer_ = new QTimer(this);

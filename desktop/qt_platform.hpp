@@ -25,6 +25,7 @@
 
 #include "runtime/platform/platform.hpp"
 #include "runtime/posix/posix_file_system.hpp"
+#include "qt_socket.hpp"
 
 class QDialog;
 class QEvent;
@@ -144,6 +145,7 @@ class QtPlatform final : public QObject,
   std::unique_ptr<FeedbackModule> feedback_;
   bool feedback_tried_ = false;  // one attempt: a module that is missing stays missing
   PosixFileSystem files_;
+  QtSocketFactory sockets_;
   Platform platform_;
   WindowHost* host_ = nullptr;
   QElapsedTimer elapsed_;

@@ -34,6 +34,8 @@ std::string FieldText(const FieldValue& value) {
 
 std::string EventText(const PlatformEvent& event) {
   if (event.kind == "beep" || event.kind == "quit") return "{\"" + event.kind + "\":true}";
+  if (event.kind == "sent" || event.kind == "received" || event.kind == "socketerror")
+    return "{\"" + event.kind + "\":" + event.text + "}";
   std::string text = "{" + JsonString(event.kind) + ":" + JsonString(event.text);
   if (event.kind == "show") text += ",\"sheet\":" + JsonBool(event.flag);
   if (event.kind == "exception") text += ",\"handler\":" + JsonString(event.detail);
@@ -63,6 +65,9 @@ void Driver::Launch() {
   program_.reset();
   platform_ = std::make_unique<HeadlessPlatform>(options_.decimal_separator, files_.get());
   platform_->SetScreenSize(options_.screen_width, options_.screen_height);
+  platform_->ConnectSockets(sockets_,
+                            [this](int max_wait_ms) { return sockets_.Pump(max_wait_ms); });
+  platform_->platform().server_override = options_.server;
   program_ = std::make_unique<tessarine::Program>(platform_->platform(), kRandomSeed);
   program_->Start();
 }
@@ -141,6 +146,15 @@ void Driver::AddPlatformCommands() {
     if (ec != std::errc() || end != s.data() + s.size() || ms < 0 || ms > 1000LL * 86400 * 365)
       throw ScriptError("wait takes milliseconds, got " + s);
     platform_->Wait(ms);
+  });
+  AddCommand("net", [this](const std::vector<Word>& args, std::ostream&) {
+    ExpectArgs(args, 1, 1, "net MS");
+    long long ms = 0;
+    const std::string& s = args[0].text;
+    auto [end, ec] = std::from_chars(s.data(), s.data() + s.size(), ms);
+    if (ec != std::errc() || end != s.data() + s.size() || ms < 0 || ms > 600000)
+      throw ScriptError("net takes milliseconds up to 600000, got " + s);
+    platform_->Net(ms);
   });
   AddCommand("after", [this](const std::vector<Word>& args, std::ostream& out) {
     if (args.size() < 2) throw ScriptError("usage: after MS COMMAND...");

@@ -14,6 +14,7 @@
 #include "runtime/headless/headless_platform.hpp"
 #include "runtime/headless/memory_file_system.hpp"
 #include "runtime/posix/posix_file_system.hpp"
+#include "runtime/posix/posix_socket.hpp"
 #include "script_words.hpp"
 #include "shell/program.hpp"
 
@@ -29,6 +30,7 @@ struct DriverOptions {
   std::string prefs_dir;  // empty: preferences live in memory
   std::string decimal_separator = ".";
   int screen_width = 1440, screen_height = 900;
+  std::string server;  // "host:port" in place of the maker's server; empty: none
 };
 
 class Driver {
@@ -58,6 +60,7 @@ class Driver {
   void Launch();
 
   std::unique_ptr<FileSystem> files_;  // in memory, or real files with --prefs-dir
+  PosixSocketFactory sockets_;
   std::unique_ptr<HeadlessPlatform> platform_;
   std::unique_ptr<tessarine::Program> program_;
   std::map<std::string, Command> commands_;

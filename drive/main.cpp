@@ -13,7 +13,7 @@ namespace {
 
 int Usage() {
   std::cerr << "usage: tessarine-drive [--prefs-dir DIR] [--decimal-separator C] [--screen WxH] "
-               "[SCRIPT]\n";
+               "[--server HOST:PORT] [SCRIPT]\n";
   return 2;
 }
 
@@ -28,6 +28,15 @@ int main(int argc, char** argv) {
       (arg == "--prefs-dir" ? options.prefs_dir : options.decimal_separator) = argv[++i];
     } else if (arg == "--screen" && i + 1 < argc) {
       if (std::sscanf(argv[++i], "%dx%d", &options.screen_width, &options.screen_height) != 2)
+        return Usage();
+    } else if (arg == "--server" && i + 1 < argc) {
+      options.server = argv[++i];
+      const auto colon = options.server.rfind(':');
+      int port = 0;
+      if (colon == 0 || colon == std::string::npos ||
+          std::sscanf(options.server.c_str() + colon + 1, "%d", &port) != 1 || port < 1 ||
+          port > 65535 ||
+          options.server.find_first_not_of("0123456789", colon + 1) != std::string::npos)
         return Usage();
     } else if (!arg.empty() && arg[0] == '-' && arg != "-") {
       return Usage();

@@ -25,6 +25,7 @@ int main(int argc, char** argv) {
       {"statistics", tessarine::desktop::testing::RunStatisticsTests},
       {"fractions", tessarine::desktop::testing::RunFractionsTests},
       {"expression", tessarine::desktop::testing::RunExpressionTests},
+      {"http", tessarine::desktop::testing::RunHttpTests},
   };
   if (argc < 2 || !suites.count(argv[1])) {
     std::string names;

@@ -14,5 +14,6 @@ int RunConversionTests(int argc, char** argv);
 int RunStatisticsTests(int argc, char** argv);
 int RunFractionsTests(int argc, char** argv);
 int RunExpressionTests(int argc, char** argv);
+int RunHttpTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing

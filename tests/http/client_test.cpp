@@ -79,9 +79,9 @@ class Harness {
     return false;
   }
 
-  // Pumps until done() or the time is up; then a little longer, so that a stray
-  // late event would show in the log.
-  bool PumpUntil(const std::function<bool()>& done, int max_ms = 4000) {
+  // Pumps until done() or the time is up (generous: a 64 MiB page on a loaded
+  // machine); then a little longer, so that a stray late event would show in the log.
+  bool PumpUntil(const std::function<bool()>& done, int max_ms = 30000) {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(max_ms);
     while (!done() && std::chrono::steady_clock::now() < deadline) sockets.Pump(10);
     const bool ok = done();

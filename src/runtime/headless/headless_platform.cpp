@@ -1,6 +1,7 @@
 #include "runtime/headless/headless_platform.hpp"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 
 #include "runtime/platform/keyboard_state.hpp"
@@ -9,8 +10,46 @@
 namespace tessarine {
 
 HeadlessPlatform::HeadlessPlatform(std::string decimal_separator, FileSystem* files)
-    : platform_{*this,  *this, *this, *this, *this, *this, files ? *files : memory_files_,
+    : pump_sockets_([this](int max_wait_ms) { return offline_sockets_.Pump(max_wait_ms); }),
+      sockets_(offline_sockets_,
+               [this](const std::string& kind, const std::string& text) {
+                 Log({kind, text});
+               }),
+      platform_{*this,
+                *this,
+                *this,
+                *this,
+                *this,
+                *this,
+                files ? *files : memory_files_,
+                sockets_,
                 std::move(decimal_separator)} {}
+
+void HeadlessPlatform::ConnectSockets(SocketFactory& sockets, std::function<bool(int)> pump) {
+  sockets_.SetInner(sockets);
+  pump_sockets_ = std::move(pump);
+}
+
+bool HeadlessPlatform::Net(std::int64_t ms) {
+  using Clock = std::chrono::steady_clock;
+  const std::int64_t limit_us = std::max<std::int64_t>(ms, 0) * 1000;
+  const Clock::time_point start = Clock::now();
+  std::int64_t advanced_us = 0;
+  for (;;) {
+    const auto elapsed_us = [&] {
+      const auto us =
+          std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start).count();
+      return std::min<std::int64_t>(us, limit_us);
+    };
+    // Short waits, so that timers keep firing close to their time.
+    const std::int64_t left_ms = (limit_us - elapsed_us()) / 1000;
+    const bool busy = pump_sockets_(static_cast<int>(std::min<std::int64_t>(left_ms, 10)));
+    const std::int64_t now = elapsed_us();
+    Advance(now - advanced_us);
+    advanced_us = now;
+    if (!busy || now >= limit_us) return busy;
+  }
+}
 
 CivilTime HeadlessPlatform::Now() const {
   // Virtual wall clock: a fixed moment plus the virtual time elapsed, so that
@@ -60,7 +99,9 @@ void HeadlessPlatform::Arm(Timer& timer, std::int64_t period_ms) {
   timers_[&timer] = Scheduled{now_us_ + period_ms * 1000, next_sequence_++, period_ms * 1000};
 }
 
-void HeadlessPlatform::Disarm(Timer& timer) { timers_.erase(&timer); }
+void HeadlessPlatform::Disarm(Timer& timer) {
+  timers_.erase(&timer);
+}
 
 void HeadlessPlatform::After(std::int64_t ms, std::function<void()> action) {
   actions_.emplace(now_us_ + ms * 1000, std::move(action));
@@ -102,8 +143,11 @@ void HeadlessPlatform::FireDue(std::int64_t until_us) {
 }
 
 void HeadlessPlatform::Wait(std::int64_t ms) {
-  if (ms < 0) ms = 0;
-  const std::int64_t until = now_us_ + ms * 1000;
+  Advance(std::max<std::int64_t>(ms, 0) * 1000);
+}
+
+void HeadlessPlatform::Advance(std::int64_t us) {
+  const std::int64_t until = now_us_ + us;
   FireDue(until);
   now_us_ = until;
 }

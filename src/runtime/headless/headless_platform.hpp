@@ -4,6 +4,8 @@
 //
 // Time only moves when asked: Wait advances it and fires due timers in order, and
 // Yield (a long loop letting the event loop run) advances it by one millisecond.
+// Sockets come from a factory the owner connects (the driver: real sockets), or
+// from a machine without a network; Net runs their events in real time.
 #pragma once
 
 #include <cstdint>
@@ -15,6 +17,7 @@
 #include <vector>
 
 #include "runtime/headless/memory_file_system.hpp"
+#include "runtime/headless/recording_sockets.hpp"
 #include "runtime/platform/platform.hpp"
 
 namespace tessarine {
@@ -23,9 +26,10 @@ namespace tessarine {
 struct PlatformEvent {
   PlatformEvent(std::string kind_, std::string text_ = "", std::string detail_ = "")
       : kind(std::move(kind_)), text(std::move(text_)), detail(std::move(detail_)) {}
-  std::string kind;  // "speak", "sound", "beep", "msgbox", "show", "close", "url",
-                     // "exception", "quit"
-  std::string text;  // what was spoken, played, shown, opened; the exception class
+  std::string kind;    // "speak", "sound", "beep", "msgbox", "show", "close", "url",
+                       // "exception", "quit"; of sockets "connect", "connected", "sent",
+                       // "received", "socketerror"
+  std::string text;    // what was spoken, played, shown, opened; the exception class
   std::string detail;  // the handler of an exception
   bool flag = false;   // "show": as a sheet
 };
@@ -47,6 +51,14 @@ class HeadlessPlatform final : private Clock,
 
   // Advances virtual time by ms milliseconds, firing due timers in order.
   void Wait(std::int64_t ms);
+  // The sockets of the program from now on, and the loop that delivers their
+  // events (waiting at most its argument in milliseconds, telling whether any
+  // socket is still busy). Their activity goes to the event log.
+  void ConnectSockets(SocketFactory& sockets, std::function<bool(int max_wait_ms)> pump);
+  // Lets up to ms milliseconds of real time pass while socket events are delivered,
+  // virtual time advancing alike (timers fire); returns early once no socket is
+  // busy, and tells whether one still is.
+  bool Net(std::int64_t ms);
   // Lets the clock run inside a handler: every read of the clock advances virtual
   // time by this many microseconds (0, the default, stops it). Timers still fire
   // only at a yield or a wait.
@@ -113,6 +125,7 @@ class HeadlessPlatform final : private Clock,
   void Log(PlatformEvent event) { events_.push_back(std::move(event)); }
   // Fires every timer due at or before `until_us`, in order of due time.
   void FireDue(std::int64_t until_us);
+  void Advance(std::int64_t us);
 
   struct Scheduled {
     std::int64_t due_us;
@@ -120,6 +133,9 @@ class HeadlessPlatform final : private Clock,
     std::int64_t period_us;
   };
   MemoryFileSystem memory_files_;
+  OfflineSocketFactory offline_sockets_;
+  std::function<bool(int)> pump_sockets_;
+  RecordingSocketFactory sockets_;
   Platform platform_;
   mutable std::int64_t now_us_ = 0;
   std::int64_t clock_rate_us_ = 0;

@@ -11,6 +11,7 @@
 #include "runtime/platform/feedback.hpp"
 #include "runtime/platform/file_system.hpp"
 #include "runtime/platform/keyboard_state.hpp"
+#include "runtime/platform/socket.hpp"
 #include "runtime/platform/timer_host.hpp"
 
 namespace tessarine {
@@ -23,8 +24,12 @@ struct Platform {
   Feedback& feedback;
   Desktop& desktop;
   FileSystem& files;
+  SocketFactory& sockets;
   // The user's decimal separator, read once from the system at start.
   std::string decimal_separator = ".";
+  // "host:port" that takes the place of the maker's server in every request the
+  // program makes (ApplyServerOverride in http/); empty: the maker's own.
+  std::string server_override = {};
 };
 
 }  // namespace tessarine
