@@ -23,9 +23,9 @@ void BM_KeypadCalculation(benchmark::State& state) {
   CalcWindow& w = calc.Window();
   // 12.5 + 7 = , then 3 x 4 = : digits, point, operators and equals.
   std::vector<Control*> keys;
-  for (const char* name : {"Button1", "Button2", "ButtonDecimal", "Button5", "ButtonPlus",
-                           "Button7", "ButtonEqual", "Button3", "ButtonTimes", "Button4",
-                           "ButtonEqual"})
+  for (const char* name :
+       {"Button1", "Button2", "ButtonDecimal", "Button5", "ButtonPlus", "Button7", "ButtonEqual",
+        "Button3", "ButtonTimes", "Button4", "ButtonEqual"})
     keys.push_back(&w.Get(name));
   for (auto _ : state) {
     for (Control* key : keys) key->Click();
@@ -79,8 +79,8 @@ void BM_EqualsKey(benchmark::State& state) {
 }
 BENCHMARK(BM_EqualsKey);
 
-const std::vector<double> kValues = {0,       5,          -12.5,     2.0 / 3,  123456789012,
-                                     1.5e20,  0.00000005, -1e70,     3.14159,  1234567890123};
+const std::vector<double> kValues = {0,      5,          -12.5, 2.0 / 3, 123456789012,
+                                     1.5e20, 0.00000005, -1e70, 3.14159, 1234567890123};
 
 void BM_FormatResult(benchmark::State& state) {
   BenchCalculator calc;

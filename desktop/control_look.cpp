@@ -8,7 +8,9 @@ namespace tessarine::desktop {
 
 namespace {
 
-bool Is(const Control& control, std::string_view name) { return StrEq(control.Name(), name); }
+bool Is(const Control& control, std::string_view name) {
+  return StrEq(control.Name(), name);
+}
 
 bool IsKey(const Control& control) {
   return control.Kind() == ControlKind::CalcBevelButton ||

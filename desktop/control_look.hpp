@@ -13,15 +13,15 @@
 namespace tessarine::desktop {
 
 // The program's fonts, with metric-compatible free faces for the classic ones.
-inline constexpr const char* kSansFamily = "Liberation Sans";   // Arial, Helvetica
-inline constexpr const char* kMonoFamily = "Liberation Mono";   // Courier
+inline constexpr const char* kSansFamily = "Liberation Sans";    // Arial, Helvetica
+inline constexpr const char* kMonoFamily = "Liberation Mono";    // Courier
 inline constexpr const char* kSerifFamily = "Liberation Serif";  // Times New Roman
 
 struct ControlLook {
   QString family;       // empty: the application's font
   int pixel_size = 12;  // when the control's TextSize is 0
   Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
-  QColor background;    // invalid: the style's
+  QColor background;  // invalid: the style's
 };
 
 ControlLook LookFor(const Control& control);

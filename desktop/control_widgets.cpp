@@ -73,7 +73,9 @@ void KeyButton::PaintFace(QPainter& painter, bool down) const {
   painter.restore();
 }
 
-QSize KeyButton::sizeHint() const { return QSize(33, 26); }
+QSize KeyButton::sizeHint() const {
+  return QSize(33, 26);
+}
 
 void KeyButton::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
@@ -191,7 +193,9 @@ void TabPanelWidget::PlaceBar() {
   update();
 }
 
-void TabPanelWidget::resizeEvent(QResizeEvent*) { PlaceBar(); }
+void TabPanelWidget::resizeEvent(QResizeEvent*) {
+  PlaceBar();
+}
 
 void TabPanelWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);

@@ -33,7 +33,6 @@ DesktopApp::DesktopApp(std::uint64_t random_seed, const std::string& preferences
     : platform_(preferences_folder), program_(platform_.platform(), random_seed) {
   platform_.SetWindowHost(this);
   program_.Windows().WindowMade.Connect([this](Window& window) { OnWindowMade(window); }).Release();
-
 }
 
 void DesktopApp::OnWindowMade(Window& window) {
@@ -113,7 +112,9 @@ void DesktopApp::CloseWindow(const std::string& window_name) {
   dialogs_.erase(window_name);
 }
 
-QWidget* DesktopApp::DialogParent() { return main_view_.get(); }
+QWidget* DesktopApp::DialogParent() {
+  return main_view_.get();
+}
 
 QObject* DesktopApp::KeyTarget() {
   if (!main_view_) return nullptr;

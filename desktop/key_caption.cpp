@@ -35,12 +35,18 @@ struct SpokenName {
 };
 
 constexpr SpokenName kSpokenNames[] = {
-    {"ButtonClear", "clear"},          {"ButtonClearEntry", "clear entry"},
-    {"ButtonPlus", "plus"},            {"ButtonMinus", "minus"},
-    {"ButtonTimes", "times"},          {"ButtonDivide", "divide"},
-    {"ButtonEqual", "equals"},         {"ButtonPercent", "percent"},
-    {"ButtonChangeSign", "change sign"}, {"ButtonDecimal", "decimal point"},
-    {"ButtonDeltaPercent", "percent change"}, {"Buttonpi", "pi"},
+    {"ButtonClear", "clear"},
+    {"ButtonClearEntry", "clear entry"},
+    {"ButtonPlus", "plus"},
+    {"ButtonMinus", "minus"},
+    {"ButtonTimes", "times"},
+    {"ButtonDivide", "divide"},
+    {"ButtonEqual", "equals"},
+    {"ButtonPercent", "percent"},
+    {"ButtonChangeSign", "change sign"},
+    {"ButtonDecimal", "decimal point"},
+    {"ButtonDeltaPercent", "percent change"},
+    {"Buttonpi", "pi"},
 };
 
 const KeyMarks* MarksFor(const QString& control_name) {

@@ -8,12 +8,18 @@ namespace {
 
 const char* NamedKey(int qt_key) {
   switch (qt_key) {
-    case Qt::Key_Return: return "Return";
-    case Qt::Key_Enter: return "Enter";  // the keypad's
-    case Qt::Key_Escape: return "Escape";
-    case Qt::Key_Backspace: return "BackSpace";
-    case Qt::Key_Space: return "space";
-    default: return nullptr;
+    case Qt::Key_Return:
+      return "Return";
+    case Qt::Key_Enter:
+      return "Enter";  // the keypad's
+    case Qt::Key_Escape:
+      return "Escape";
+    case Qt::Key_Backspace:
+      return "BackSpace";
+    case Qt::Key_Space:
+      return "space";
+    default:
+      return nullptr;
   }
 }
 

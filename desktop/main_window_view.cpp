@@ -40,9 +40,8 @@ MainWindowView::MainWindowView(Program& program, QtPlatform& platform)
 
   animation_->setDuration(kResizeMs);
   animation_->setEasingCurve(QEasingCurve::InOutQuad);
-  connect(animation_, &QPropertyAnimation::finished, this, [this] {
-    setFixedSize(ModelGeometry().size());
-  });
+  connect(animation_, &QPropertyAnimation::finished, this,
+          [this] { setFixedSize(ModelGeometry().size()); });
 
   OnModelBounds();
 }

@@ -54,7 +54,8 @@ void MenuBarView::Rebuild() {
       action->setObjectName(QString::fromStdString(item.name));
       const std::string name = item.name;
       const int index = item.index;
-      connect(action, &QAction::triggered, this, [this, name, index] { app_.MenuCommand(name, index); });
+      connect(action, &QAction::triggered, this,
+              [this, name, index] { app_.MenuCommand(name, index); });
       if (!item.shortcut.empty()) {
         action->setShortcut(QKeySequence(QString::fromStdString(LinuxShortcut(item.shortcut))));
         // Shown in the menu; the main window tests the chord itself (TryShortcut).

@@ -6,22 +6,22 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QFileDialog>
-#include <QPageSetupDialog>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QKeyEvent>
 #include <QLibrary>
 #include <QLocale>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QScreen>
 #include <QThread>
 #include <QTimer>
 #include <QUrl>
 #include <QWindow>
 
-#include "runtime/timer.hpp"
 #include "feedback_module.hpp"
+#include "runtime/timer.hpp"
 #include "tape_printer.hpp"
 
 namespace tessarine::desktop {
@@ -66,8 +66,9 @@ constexpr std::int64_t kWaitingLoopNs = 2'000;
 }  // namespace
 
 QtPlatform::QtPlatform(const std::string& preferences_folder)
-    : files_(preferences_folder),
-      platform_{*this, *this, *this, *this, *this, *this, files_, sockets_, DecimalSeparator()} {
+    : files_(preferences_folder), platform_{*this,  *this,    *this,
+                                            *this,  *this,    *this,
+                                            files_, sockets_, DecimalSeparator()} {
   elapsed_.start();
   qApp->installEventFilter(this);
   flush_timer_ = new QTimer(this);
@@ -87,9 +88,13 @@ QtPlatform::~QtPlatform() {
 
 // --- Clock ------------------------------------------------------------------
 
-std::int64_t QtPlatform::Ticks() const { return elapsed_.nsecsElapsed() * 60 / 1'000'000'000; }
+std::int64_t QtPlatform::Ticks() const {
+  return elapsed_.nsecsElapsed() * 60 / 1'000'000'000;
+}
 
-std::int64_t QtPlatform::Microseconds() const { return elapsed_.nsecsElapsed() / 1000; }
+std::int64_t QtPlatform::Microseconds() const {
+  return elapsed_.nsecsElapsed() / 1000;
+}
 
 CivilTime QtPlatform::Now() const {
   const QDateTime now = QDateTime::currentDateTime();
@@ -142,7 +147,9 @@ void QtPlatform::SetText(const std::string& text) {
   QGuiApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
-void QtPlatform::Beep() { QApplication::beep(); }
+void QtPlatform::Beep() {
+  QApplication::beep();
+}
 
 FeedbackModule* QtPlatform::Feedback() {
   if (!feedback_tried_) {
@@ -328,17 +335,26 @@ void QtPlatform::RecordKey(const QKeyEvent& event, bool deferred) {
   const bool press = event.type() == QEvent::KeyPress;
   unsigned key = 0;
   switch (event.key()) {
-    case Qt::Key_Control: key = kCtrl; break;
-    case Qt::Key_Alt: key = kAlt; break;
-    case Qt::Key_Shift: key = kShift; break;
+    case Qt::Key_Control:
+      key = kCtrl;
+      break;
+    case Qt::Key_Alt:
+      key = kAlt;
+      break;
+    case Qt::Key_Shift:
+      key = kShift;
+      break;
     case Qt::Key_Meta:
     case Qt::Key_Super_L:
-    case Qt::Key_Super_R: key = kMeta; break;
+    case Qt::Key_Super_R:
+      key = kMeta;
+      break;
     case Qt::Key_Period:
       // The period of the main keyboard, as the abort chord asks; not the keypad's.
       if (!(event.modifiers() & Qt::KeypadModifier)) key = kPeriod;
       break;
-    default: break;
+    default:
+      break;
   }
   if (press) {
     held_ |= key;
@@ -346,10 +362,9 @@ void QtPlatform::RecordKey(const QKeyEvent& event, bool deferred) {
     if (key == 0 || key == kPeriod) {
       // Another key: its modifiers say what is held, whatever was missed.
       const Qt::KeyboardModifiers mods = event.modifiers();
-      const unsigned from_mods = (mods & Qt::ControlModifier ? kCtrl : 0u) |
-                                 (mods & Qt::AltModifier ? kAlt : 0u) |
-                                 (mods & Qt::ShiftModifier ? kShift : 0u) |
-                                 (mods & Qt::MetaModifier ? kMeta : 0u);
+      const unsigned from_mods =
+          (mods & Qt::ControlModifier ? kCtrl : 0u) | (mods & Qt::AltModifier ? kAlt : 0u) |
+          (mods & Qt::ShiftModifier ? kShift : 0u) | (mods & Qt::MetaModifier ? kMeta : 0u);
       held_ = (held_ & kPeriod) | from_mods;
     }
   } else if (deferred) {

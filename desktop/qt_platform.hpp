@@ -23,9 +23,9 @@
 #include <string>
 #include <vector>
 
+#include "qt_socket.hpp"
 #include "runtime/platform/platform.hpp"
 #include "runtime/posix/posix_file_system.hpp"
-#include "qt_socket.hpp"
 
 class QDialog;
 class QEvent;

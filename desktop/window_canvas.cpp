@@ -1,12 +1,9 @@
 #include "window_canvas.hpp"
 
-#include <QCursor>
-
-#include "file_drop.hpp"
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCursor>
 #include <QEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -24,15 +21,18 @@
 
 #include "control_look.hpp"
 #include "control_widgets.hpp"
+#include "file_drop.hpp"
 #include "key_caption.hpp"
-#include "text_selection.hpp"
 #include "runtime/text.hpp"
+#include "text_selection.hpp"
 
 namespace tessarine::desktop {
 
 namespace {
 
-QString Q(const std::string& text) { return QString::fromStdString(text); }
+QString Q(const std::string& text) {
+  return QString::fromStdString(text);
+}
 
 // The program ends its lines with a carriage return; Qt's text widgets with a
 // line feed.
@@ -292,9 +292,8 @@ QWidget* WindowCanvas::Make(Control& control) {
     case ControlKind::NumberOnlyEditField: {
       auto* edit = new QLineEdit(&canvas_);
       edit->setFocusPolicy(Qt::ClickFocus);  // a field takes the keys only when clicked
-      connect(edit, &QLineEdit::textEdited, this, [this, c, edit](const QString& text) {
-        UserEdited(*c, edit, text.toStdString());
-      });
+      connect(edit, &QLineEdit::textEdited, this,
+              [this, c, edit](const QString& text) { UserEdited(*c, edit, text.toStdString()); });
       connect(edit, &QLineEdit::cursorPositionChanged, this,
               [this, c, edit] { UserMovedCaret(*c, edit); });
       connect(edit, &QLineEdit::selectionChanged, this,
@@ -412,15 +411,14 @@ void WindowCanvas::OnChanged(Control* control, Property property) {
   if (it == index_.end()) return;
   const Bound& bound = bound_[it->second];
   const ControlKind kind = control->Kind();
-  const bool panel_page =
-      property == Property::Value && (kind == ControlKind::TabPanel || kind == ControlKind::PagePanel);
+  const bool panel_page = property == Property::Value &&
+                          (kind == ControlKind::TabPanel || kind == ControlKind::PagePanel);
   if (bound.widget) {
     applying_ = true;
     Apply(bound, property);
     applying_ = false;
   }
-  if (panel_page || property == Property::Visible || property == Property::Bounds)
-    SyncVisibility();
+  if (panel_page || property == Property::Visible || property == Property::Bounds) SyncVisibility();
   if (panel_page && kind == ControlKind::TabPanel && on_page_change) on_page_change();
 }
 
@@ -428,15 +426,30 @@ void WindowCanvas::Apply(const Bound& bound, Property property) {
   const Control& control = *bound.control;
   QWidget* widget = bound.widget;
   switch (property) {
-    case Property::Text: ApplyText(bound); break;
-    case Property::Value: ApplyValue(bound); break;
-    case Property::Rows: ApplyRows(bound); break;
-    case Property::ListIndex: ApplyListIndex(bound); break;
-    case Property::Enabled: widget->setEnabled(control.Enabled()); break;
-    case Property::Visible: break;  // SyncVisibility
-    case Property::HelpTag: widget->setToolTip(Q(control.HelpTag())); break;
+    case Property::Text:
+      ApplyText(bound);
+      break;
+    case Property::Value:
+      ApplyValue(bound);
+      break;
+    case Property::Rows:
+      ApplyRows(bound);
+      break;
+    case Property::ListIndex:
+      ApplyListIndex(bound);
+      break;
+    case Property::Enabled:
+      widget->setEnabled(control.Enabled());
+      break;
+    case Property::Visible:
+      break;  // SyncVisibility
+    case Property::HelpTag:
+      widget->setToolTip(Q(control.HelpTag()));
+      break;
     case Property::TextColor:
-    case Property::TextSize: ApplyLook(bound); break;
+    case Property::TextSize:
+      ApplyLook(bound);
+      break;
     case Property::Bounds:
       widget->setGeometry(control.Left(), control.Top(), control.Width(), control.Height());
       break;
@@ -553,7 +566,8 @@ void WindowCanvas::ApplyLook(const Bound& bound) {
   const QColor color = QColor::fromRgb(control.TextColor());
   QPalette palette = widget->palette();
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
       palette.setColor(group, role, color);
   widget->setPalette(palette);
 }

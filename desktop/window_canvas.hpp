@@ -81,7 +81,7 @@ class WindowCanvas final : public QObject {
   std::unordered_map<const Control*, std::size_t> index_;
   const Control* tab_panel_ = nullptr;
   const Control* page_panel_ = nullptr;
-  bool applying_ = false;  // a widget is being set from the model: its signals are no user's
+  bool applying_ = false;      // a widget is being set from the model: its signals are no user's
   bool user_editing_ = false;  // the model takes the user's text: its selection waits
 };
 

@@ -6,9 +6,9 @@
 #include "json_text.hpp"
 #include "keyboard_commands.hpp"
 #include "menu_commands.hpp"
-#include "session_commands.hpp"
 #include "names.hpp"
 #include "properties.hpp"
+#include "session_commands.hpp"
 
 namespace tessarine::drive {
 
@@ -47,8 +47,7 @@ std::string EventText(const PlatformEvent& event) {
 
 }  // namespace
 
-Driver::Driver(const DriverOptions& options)
-    : options_(options) {
+Driver::Driver(const DriverOptions& options) : options_(options) {
   if (options.prefs_dir.empty())
     files_ = std::make_unique<MemoryFileSystem>();
   else
@@ -72,7 +71,9 @@ void Driver::Launch() {
   program_->Start();
 }
 
-void Driver::Restart() { Launch(); }
+void Driver::Restart() {
+  Launch();
+}
 
 void Driver::RunLine(const std::string& line, std::ostream& out) {
   // A comment is skipped before its words are read: it may hold anything.
@@ -188,12 +189,13 @@ void Driver::AddPlatformCommands() {
     platform_->SetClockRate(us);
   });
   for (const bool down : {true, false}) {
-    AddCommand(down ? "hold" : "release", [this, down](const std::vector<Word>& args,
-                                                       std::ostream&) {
-      ExpectArgs(args, 1, 8, down ? "hold MOD..." : "release MOD...");
-      for (const Word& key : args)
-        if (!platform_->Hold(key.text, down)) throw ScriptError("unknown key " + key.text);
-    });
+    AddCommand(down ? "hold" : "release",
+               [this, down](const std::vector<Word>& args, std::ostream&) {
+                 ExpectArgs(args, 1, 8, down ? "hold MOD..." : "release MOD...");
+                 for (const Word& key : args)
+                   if (!platform_->Hold(key.text, down))
+                     throw ScriptError("unknown key " + key.text);
+               });
   }
   AddCommand("clipboard", [this](const std::vector<Word>& args, std::ostream& out) {
     ExpectArgs(args, 0, 1, "clipboard [TEXT]");

@@ -9,6 +9,8 @@ namespace tessarine::drive {
 
 std::string JsonNumber(double x);
 std::string JsonString(const std::string& s);
-inline std::string JsonBool(bool b) { return b ? "true" : "false"; }
+inline std::string JsonBool(bool b) {
+  return b ? "true" : "false";
+}
 
 }  // namespace tessarine::drive

@@ -11,7 +11,6 @@ namespace tessarine::drive {
 
 namespace {
 
-
 // "Name(12)" -> Name and 12; "Name" -> Name and -1.
 void SplitIndex(const std::string& text, std::string& name, int& index) {
   index = -1;

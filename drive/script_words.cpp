@@ -5,7 +5,9 @@
 namespace tessarine::drive {
 
 namespace {
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r';
+}
 }  // namespace
 
 std::optional<std::vector<Word>> SplitWords(const std::string& line, std::string& error) {
@@ -25,8 +27,8 @@ std::optional<std::vector<Word>> SplitWords(const std::string& line, std::string
         return std::nullopt;
       }
       try {
-        words.push_back({nlohmann::json::parse(line.substr(i, end - i + 1)).get<std::string>(),
-                         true});
+        words.push_back(
+            {nlohmann::json::parse(line.substr(i, end - i + 1)).get<std::string>(), true});
       } catch (const nlohmann::json::exception&) {
         error = "malformed string literal " + line.substr(i, end - i + 1);
         return std::nullopt;

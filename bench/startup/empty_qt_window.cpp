@@ -22,7 +22,8 @@ int main(int argc, char** argv) {
                                   "1", "2", "3", "-", "0", ".", "=", "+"};
   int index = 0;
   for (const char* caption : captions) {
-    layout->addWidget(new QPushButton(QString::fromLatin1(caption), &window), 1 + index / 4, index % 4);
+    layout->addWidget(new QPushButton(QString::fromLatin1(caption), &window), 1 + index / 4,
+                      index % 4);
     ++index;
   }
   window.show();

@@ -17,8 +17,6 @@
 //   map_unix=1795391663.351396
 // (map_unix: the same moment on the wall clock, to line it up with an strace log).
 // On failure it prints "error=..." and exits 1.
-#include <xcb/xcb.h>
-
 #include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
@@ -27,6 +25,7 @@
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <xcb/xcb.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -201,12 +200,13 @@ int main(int argc, char** argv) {
   struct sigaction on_signal {};
   on_signal.sa_handler = OnSignal;
   sigemptyset(&on_signal.sa_mask);
-  for (const int signal_number : {SIGHUP, SIGINT, SIGTERM}) sigaction(signal_number, &on_signal, nullptr);
+  for (const int signal_number : {SIGHUP, SIGINT, SIGTERM})
+    sigaction(signal_number, &on_signal, nullptr);
 
   const auto start = Clock::now();
   pid_t child = 0;
-  const int spawned =
-      posix_spawnp(&child, options.command[0], &actions, &attributes, options.command.data(), environ);
+  const int spawned = posix_spawnp(&child, options.command[0], &actions, &attributes,
+                                   options.command.data(), environ);
   posix_spawn_file_actions_destroy(&actions);
   posix_spawnattr_destroy(&attributes);
   if (spawned != 0) {
@@ -243,7 +243,8 @@ int main(int argc, char** argv) {
       std::printf("error=exited-before-map\n");
       return 1;
     }
-    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+    const auto left =
+        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
     if (left.count() <= 0) return Fail("timeout", child);
     pollfd wait_for{fd, POLLIN, 0};
     // Short slices, so that a program that dies without a window is seen soon.
@@ -254,7 +255,8 @@ int main(int argc, char** argv) {
   // The window's size, for the record.
   unsigned width = 0;
   unsigned height = 0;
-  if (auto* geometry = xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr)) {
+  if (auto* geometry =
+          xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr)) {
     width = geometry->width;
     height = geometry->height;
     std::free(geometry);
@@ -276,8 +278,9 @@ int main(int argc, char** argv) {
   EndProcessGroup(child);
   xcb_disconnect(connection);
 
-  std::printf("map_ms=%.3f rss_kib=%ld tree_rss_kib=%ld procs=%zu window=0x%x size=%ux%u map_unix=%.6f\n",
-              map_ms, rss, tree_rss, tree.size(), window, width, height,
-              std::chrono::duration<double>(mapped_wall.time_since_epoch()).count());
+  std::printf(
+      "map_ms=%.3f rss_kib=%ld tree_rss_kib=%ld procs=%zu window=0x%x size=%ux%u map_unix=%.6f\n",
+      map_ms, rss, tree_rss, tree.size(), window, width, height,
+      std::chrono::duration<double>(mapped_wall.time_since_epoch()).count());
   return 0;
 }

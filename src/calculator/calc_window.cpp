@@ -3,8 +3,8 @@
 #include <functional>
 #include <utility>
 
-#include "runtime/text.hpp"
 #include "calculator/main_window_layout.hpp"
+#include "runtime/text.hpp"
 
 namespace tessarine {
 
@@ -175,6 +175,8 @@ std::optional<FieldValue> CalcWindow::FieldByName(std::string_view name) const {
 
 CalcWindow::~CalcWindow() = default;
 
-void CalcWindow::AddPart(std::unique_ptr<MainWindowPart> part) { parts_.push_back(std::move(part)); }
+void CalcWindow::AddPart(std::unique_ptr<MainWindowPart> part) {
+  parts_.push_back(std::move(part));
+}
 
 }  // namespace tessarine

@@ -28,11 +28,11 @@
 #include <variant>
 #include <vector>
 
+#include "calculator/main_window_part.hpp"
 #include "runtime/bounded_array.hpp"
 #include "runtime/control.hpp"
 #include "runtime/numbers.hpp"
 #include "runtime/window.hpp"
-#include "calculator/main_window_part.hpp"
 #include "settings/app_context.hpp"
 #include "settings/global_stuff.hpp"
 
@@ -59,11 +59,11 @@ class CalcWindow final : public Window {
   }
 
   // --- The keypad's state -------------------------------------------------
-  double Result = 0;        // the current value: on display, read and written by every key
-  double Stored = 0;        // left operand of the pending operator
-  std::string Calculation;  // pending operator: "Add", "Subtract", "Multiply", "Divide", "None"
-  double Stored2 = 0;       // left operand of the pending two-operand function
-  std::string Calculation2;  // pending function: "NthRoot", "Power", ..., "Percent"
+  double Result = 0;           // the current value: on display, read and written by every key
+  double Stored = 0;           // left operand of the pending operator
+  std::string Calculation;     // pending operator: "Add", "Subtract", "Multiply", "Divide", "None"
+  double Stored2 = 0;          // left operand of the pending two-operand function
+  std::string Calculation2;    // pending function: "NthRoot", "Power", ..., "Percent"
   bool ClearDisplay = false;   // next digit starts anew; Result is no fresh operand
   bool ClearDisplay2 = false;  // next digit starts anew; Result still counts as operand
   std::string StringResult;    // the digits typed so far, unsigned, at most 12 characters
@@ -80,7 +80,7 @@ class CalcWindow final : public Window {
 
   // --- Memory banks (memory_banks.cpp) --------------------------------------
   BoundedArray<double, 0, 11> StorageValue;  // banks 1 to 10
-  std::string StorageAction;                  // "Add", "Minus", "Recall" or "Clear"
+  std::string StorageAction;                 // "Add", "Minus", "Recall" or "Clear"
   void StoragePlusButton_Action() { OpenStorageMenu("Add"); }
   void StorageMinusButton_Action() { OpenStorageMenu("Minus"); }
   void StorageRecallButton_Action() { OpenStorageMenu("Recall"); }

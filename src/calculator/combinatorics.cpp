@@ -1,14 +1,14 @@
 // n!, C(n,k) and P(n,k). C and P are sums of logarithms, never exact integers: a
 // large result shows what Exp of the sum gives. Their loops can run long, so they
 // yield to the event loop now and then and poll the abort chord at every round.
-#include "calculator/progress_bar_window.hpp"
-#include "calculator/calc_window.hpp"
-#include "calculator/long_loop.hpp"
-#include "runtime/arithmetic.hpp"
-
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+
+#include "calculator/calc_window.hpp"
+#include "calculator/long_loop.hpp"
+#include "calculator/progress_bar_window.hpp"
+#include "runtime/arithmetic.hpp"
 
 namespace tessarine {
 
@@ -82,9 +82,9 @@ class LoopProgress {
   std::int64_t NextMove(std::int64_t i) const {
     const double target = bar_->Value() + 1;
     double guess = std::ceil((target - base_) / 250 * span_ + offset_);
-    std::int64_t j = guess <= static_cast<double>(i) ? i + 1
+    std::int64_t j = guess <= static_cast<double>(i)      ? i + 1
                      : guess > static_cast<double>(last_) ? last_ + 1
-                                                            : static_cast<std::int64_t>(guess);
+                                                          : static_cast<std::int64_t>(guess);
     while (j > i + 1 && Moves(j - 1)) --j;  // p is rounded: the guess may be late...
     while (j <= last_ && !Moves(j)) ++j;    // ...or early, by a round or two
     return j;

@@ -83,6 +83,8 @@ void CalcWindow::PlayClearSound() {
   PlayClassSound(globals_.UseClearSound, globals_.ClearSoundNumber);
 }
 // The one sound that speech does not silence; ErrorHasOccurred checks its switch.
-void CalcWindow::PlayErrorSound() { PlaySoundNumber(globals_.ErrorSoundNumber); }
+void CalcWindow::PlayErrorSound() {
+  PlaySoundNumber(globals_.ErrorSoundNumber);
+}
 
 }  // namespace tessarine

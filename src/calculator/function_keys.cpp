@@ -21,46 +21,53 @@ void CalcWindow::RunOneOperandKey(const char* tape, double (*function)(double), 
 }
 
 void CalcWindow::ButtonSquareRootAction() {
-  RunOneOperandKey("    √x", [](double x) { return Sqrt(x); }, KeyFlag::ClearDisplay2,
-                   "Square root");
+  RunOneOperandKey(
+      "    √x", [](double x) { return Sqrt(x); }, KeyFlag::ClearDisplay2, "Square root");
 }
 void CalcWindow::ButtonCubeRootAction() {
-  RunOneOperandKey("   3√x", [](double x) { return Pow(x, 0.3333333333333333); },
-                   KeyFlag::ClearDisplay2, "Cube root");
+  RunOneOperandKey(
+      "   3√x", [](double x) { return Pow(x, 0.3333333333333333); }, KeyFlag::ClearDisplay2,
+      "Cube root");
 }
 void CalcWindow::ButtonSquaredAction() {
-  RunOneOperandKey("   x^2", [](double x) { return Pow(x, 2); }, KeyFlag::None, "Squared");
+  RunOneOperandKey(
+      "   x^2", [](double x) { return Pow(x, 2); }, KeyFlag::None, "Squared");
 }
 void CalcWindow::ButtonCubedAction() {
-  RunOneOperandKey("   x^3", [](double x) { return Pow(x, 3); }, KeyFlag::None, "Cubed");
+  RunOneOperandKey(
+      "   x^3", [](double x) { return Pow(x, 3); }, KeyFlag::None, "Cubed");
 }
 void CalcWindow::ButtonOneOverXAction() {
-  RunOneOperandKey("   1/x", [](double x) { return 1 / x; }, KeyFlag::ClearDisplay, "Inverse");
+  RunOneOperandKey(
+      "   1/x", [](double x) { return 1 / x; }, KeyFlag::ClearDisplay, "Inverse");
 }
 void CalcWindow::ButtonlnAction() {
-  RunOneOperandKey("    ln", [](double x) { return Log(x); }, KeyFlag::ClearDisplay2,
-                   "Natural log");
+  RunOneOperandKey(
+      "    ln", [](double x) { return Log(x); }, KeyFlag::ClearDisplay2, "Natural log");
 }
 void CalcWindow::ButtonLogAction() {
-  RunOneOperandKey("   log", [](double x) { return Log(x) / Log(10); }, KeyFlag::None,
-                   "Log base 10");
+  RunOneOperandKey(
+      "   log", [](double x) { return Log(x) / Log(10); }, KeyFlag::None, "Log base 10");
 }
 void CalcWindow::ButtonTenToTheXAction() {
-  RunOneOperandKey("  10^x", [](double x) { return Pow(10, x); }, KeyFlag::ClearDisplay,
-                   "10 to the X");
+  RunOneOperandKey(
+      "  10^x", [](double x) { return Pow(10, x); }, KeyFlag::ClearDisplay, "10 to the X");
 }
 void CalcWindow::ButtoneToTheXAction() {
-  RunOneOperandKey("   e^x", [](double x) { return Exp(x); }, KeyFlag::ClearDisplay,
-                   "E to the X");
+  RunOneOperandKey(
+      "   e^x", [](double x) { return Exp(x); }, KeyFlag::ClearDisplay, "E to the X");
 }
 void CalcWindow::ButtonRoundAction() {
-  RunOneOperandKey("  roun", [](double x) { return Round(x); }, KeyFlag::ClearDisplay2, "Round");
+  RunOneOperandKey(
+      "  roun", [](double x) { return Round(x); }, KeyFlag::ClearDisplay2, "Round");
 }
 void CalcWindow::ButtonRoundDownAction() {
-  RunOneOperandKey("   dow", [](double x) { return Floor(x); }, KeyFlag::ClearDisplay2, "Down");
+  RunOneOperandKey(
+      "   dow", [](double x) { return Floor(x); }, KeyFlag::ClearDisplay2, "Down");
 }
 void CalcWindow::ButtonRoundUpAction() {
-  RunOneOperandKey("    up", [](double x) { return Ceil(x); }, KeyFlag::ClearDisplay2, "Up");
+  RunOneOperandKey(
+      "    up", [](double x) { return Ceil(x); }, KeyFlag::ClearDisplay2, "Up");
 }
 
 void CalcWindow::ButtonRandomAction() {
@@ -86,8 +93,7 @@ void CalcWindow::ButtonpiAction() {
   SpeakButton("Pi");
 }
 
-void CalcWindow::ArmTwoOperandFunction(const char* tape, const char* function,
-                                       const char* speech) {
+void CalcWindow::ArmTwoOperandFunction(const char* tape, const char* function, const char* speech) {
   WriteToTape(tape);
   Stored2 = Result;
   ClearDisplay = true;
@@ -97,7 +103,9 @@ void CalcWindow::ArmTwoOperandFunction(const char* tape, const char* function,
   SpeakButton(speech);
 }
 
-void CalcWindow::ButtonXtotheYAction() { ArmTwoOperandFunction("   x^y", "Power", "X to the why"); }
+void CalcWindow::ButtonXtotheYAction() {
+  ArmTwoOperandFunction("   x^y", "Power", "X to the why");
+}
 void CalcWindow::ButtonNthRootAction() {
   ArmTwoOperandFunction("   x√y", "NthRoot", "enth, root");
 }

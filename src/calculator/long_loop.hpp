@@ -20,8 +20,7 @@ class LongLoop {
   explicit LongLoop(Platform& platform) : platform_(platform) {}
 
   bool AbortChordDown() const {
-    return platform_.keyboard.AsyncCommandKey() &&
-           platform_.keyboard.AsyncKeyDown(kPeriodKeyCode);
+    return platform_.keyboard.AsyncCommandKey() && platform_.keyboard.AsyncKeyDown(kPeriodKeyCode);
   }
 
   void Round() {

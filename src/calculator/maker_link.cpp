@@ -19,6 +19,8 @@ void CalcWindow::BrindleyURL_MouseUp(int x, int y) {
     platform_.desktop.ShowURL(MakerHomePage());
 }
 
-std::string MakerHomePage() { return "http://" + std::string(kMakerHostName) + "/"; }
+std::string MakerHomePage() {
+  return "http://" + std::string(kMakerHostName) + "/";
+}
 
 }  // namespace tessarine

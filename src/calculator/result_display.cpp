@@ -87,7 +87,9 @@ std::string CalcWindow::ConvertPreciseResult(double x) const {
   return Format(x, "-#.########");
 }
 
-bool CalcWindow::ParseResult(const std::string&) const { return false; }
+bool CalcWindow::ParseResult(const std::string&) const {
+  return false;
+}
 
 bool CalcWindow::IsDigit(const std::string& s) const {
   // By string order, as the comparison of two texts goes.

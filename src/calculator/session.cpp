@@ -89,16 +89,14 @@ void CalcWindow::Event_Open() {
   if (globals_.SaveMemoryBanks) {
     for (int n = 1; n <= 10; ++n) {
       StorageValue(n) = ReadPref(prefs, prefs::SavedStorageValue, n);
-      Item("MemoryLabel", n).SetVisible(
-          ReadPref(prefs, prefs::MemoryBankVisible, n));
+      Item("MemoryLabel", n).SetVisible(ReadPref(prefs, prefs::MemoryBankVisible, n));
     }
   }
   for (int n = 1; n <= 10; ++n) Get("StorageMenu").SetRow(n - 1, StorageRowText(n));
 
   // 12. Speech: the key holds the state before one flip.
   MenuBar& bar = app_.menu_bar;
-  bar.SetChecked(bar.Item("SpeechSpeakButtonMenu"),
-                 ReadPref(prefs, prefs::SpeakButton));
+  bar.SetChecked(bar.Item("SpeechSpeakButtonMenu"), ReadPref(prefs, prefs::SpeakButton));
   SpeakButtonsClicked();
   bar.SetChecked(bar.Item("SpeechSpeakTotalMenu"), ReadPref(prefs, prefs::SpeakTotal));
   SpeakTotalClicked();

@@ -80,7 +80,8 @@ void TapeWindow::LayOut() {
   const int foot = Height() - 26;
   TapeEditField.SetBounds(0, 0, 205, foot - 6);
   for (Control* button : {&TapeOnButton, &TapeOffButton, &Get("ClearTapeButton")})
-    button->SetBounds(button->Left(), foot - (button == &TapeOnButton || button == &TapeOffButton ? 0 : 1),
+    button->SetBounds(button->Left(),
+                      foot - (button == &TapeOnButton || button == &TapeOffButton ? 0 : 1),
                       button->Width(), button->Height());
 }
 

@@ -11,7 +11,9 @@ namespace {
 constexpr double kDegreesToRadians = 0.0174532925199433;
 }  // namespace
 
-bool CalcWindow::InRadians() { return Item("UnitsRadio", 0).IsDown(); }
+bool CalcWindow::InRadians() {
+  return Item("UnitsRadio", 0).IsDown();
+}
 
 // The endings differ from key to key; each is kept in its own order.
 void CalcWindow::TrigEndingSineTangent() {

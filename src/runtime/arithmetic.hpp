@@ -8,21 +8,49 @@
 
 namespace tessarine {
 
-inline double Abs(double x) { return std::fabs(x); }
-inline double Sqrt(double x) { return std::sqrt(x); }
-inline double Exp(double x) { return std::exp(x); }
-inline double Pow(double x, double y) { return std::pow(x, y); }
-inline double Log(double x) { return std::log(x); }
-inline double Sin(double x) { return std::sin(x); }
-inline double Cos(double x) { return std::cos(x); }
-inline double Tan(double x) { return std::tan(x); }
-inline double ASin(double x) { return std::asin(x); }
-inline double ACos(double x) { return std::acos(x); }
-inline double ATan(double x) { return std::atan(x); }
-inline double Floor(double x) { return std::floor(x); }
-inline double Ceil(double x) { return std::ceil(x); }
+inline double Abs(double x) {
+  return std::fabs(x);
+}
+inline double Sqrt(double x) {
+  return std::sqrt(x);
+}
+inline double Exp(double x) {
+  return std::exp(x);
+}
+inline double Pow(double x, double y) {
+  return std::pow(x, y);
+}
+inline double Log(double x) {
+  return std::log(x);
+}
+inline double Sin(double x) {
+  return std::sin(x);
+}
+inline double Cos(double x) {
+  return std::cos(x);
+}
+inline double Tan(double x) {
+  return std::tan(x);
+}
+inline double ASin(double x) {
+  return std::asin(x);
+}
+inline double ACos(double x) {
+  return std::acos(x);
+}
+inline double ATan(double x) {
+  return std::atan(x);
+}
+inline double Floor(double x) {
+  return std::floor(x);
+}
+inline double Ceil(double x) {
+  return std::ceil(x);
+}
 // Nearest whole number; a tie goes away from zero.
-inline double Round(double x) { return std::round(x); }
+inline double Round(double x) {
+  return std::round(x);
+}
 
 }  // namespace tessarine
 

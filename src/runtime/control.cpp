@@ -11,25 +11,44 @@ namespace tessarine {
 
 std::string_view KindName(ControlKind kind) {
   switch (kind) {
-    case ControlKind::Label: return "Label";
-    case ControlKind::BevelButton: return "BevelButton";
-    case ControlKind::CalcBevelButton: return "CalcBevelButton";
-    case ControlKind::PushButton: return "PushButton";
-    case ControlKind::RadioButton: return "RadioButton";
-    case ControlKind::CheckBox: return "CheckBox";
-    case ControlKind::PopupMenu: return "PopupMenu";
-    case ControlKind::Listbox: return "Listbox";
-    case ControlKind::TextField: return "TextField";
-    case ControlKind::TextArea: return "TextArea";
-    case ControlKind::NumberOnlyEditField: return "NumberOnlyEditField";
-    case ControlKind::GroupBox: return "GroupBox";
-    case ControlKind::TabPanel: return "TabPanel";
-    case ControlKind::PagePanel: return "PagePanel";
-    case ControlKind::RoundRectangle: return "RoundRectangle";
-    case ControlKind::Rectangle: return "Rectangle";
-    case ControlKind::Separator: return "Separator";
-    case ControlKind::Canvas: return "Canvas";
-    case ControlKind::ProgressBar: return "ProgressBar";
+    case ControlKind::Label:
+      return "Label";
+    case ControlKind::BevelButton:
+      return "BevelButton";
+    case ControlKind::CalcBevelButton:
+      return "CalcBevelButton";
+    case ControlKind::PushButton:
+      return "PushButton";
+    case ControlKind::RadioButton:
+      return "RadioButton";
+    case ControlKind::CheckBox:
+      return "CheckBox";
+    case ControlKind::PopupMenu:
+      return "PopupMenu";
+    case ControlKind::Listbox:
+      return "Listbox";
+    case ControlKind::TextField:
+      return "TextField";
+    case ControlKind::TextArea:
+      return "TextArea";
+    case ControlKind::NumberOnlyEditField:
+      return "NumberOnlyEditField";
+    case ControlKind::GroupBox:
+      return "GroupBox";
+    case ControlKind::TabPanel:
+      return "TabPanel";
+    case ControlKind::PagePanel:
+      return "PagePanel";
+    case ControlKind::RoundRectangle:
+      return "RoundRectangle";
+    case ControlKind::Rectangle:
+      return "Rectangle";
+    case ControlKind::Separator:
+      return "Separator";
+    case ControlKind::Canvas:
+      return "Canvas";
+    case ControlKind::ProgressBar:
+      return "ProgressBar";
   }
   return "Control";
 }
@@ -74,7 +93,9 @@ std::string Control::FullName() const {
   return index_ < 0 ? name_ : name_ + "(" + std::to_string(index_) + ")";
 }
 
-void Control::Notify(Property property) { owner_.NotifyChanged(this, property); }
+void Control::Notify(Property property) {
+  owner_.NotifyChanged(this, property);
+}
 
 void Control::Raise(const std::function<void()>& handler, std::string_view event) {
   if (!handler) return;
@@ -110,10 +131,13 @@ void Control::SetSelLength(int length) {
   Notify(Property::Selection);
 }
 
-std::string Control::SelText() const { return Mid(text_, sel_start_ + 1, sel_length_); }
+std::string Control::SelText() const {
+  return Mid(text_, sel_start_ + 1, sel_length_);
+}
 
 void Control::SetSelText(const std::string& text) {
-  std::string replaced = tessarine::Left(text_, sel_start_) + text + Mid(text_, sel_start_ + sel_length_ + 1);
+  std::string replaced =
+      tessarine::Left(text_, sel_start_) + text + Mid(text_, sel_start_ + sel_length_ + 1);
   sel_start_ += Len(text);
   sel_length_ = 0;
   if (replaced == text_) {
@@ -285,7 +309,11 @@ bool Control::UserMouseDown(int x, int y) {
 void Control::UserMouseUp(int x, int y) {
   if (!mouse_captured_) return;  // only a MouseDown that returned true gets its MouseUp
   mouse_captured_ = false;
-  Raise([&] { if (events.MouseUp) events.MouseUp(x, y); }, "MouseUp");
+  Raise(
+      [&] {
+        if (events.MouseUp) events.MouseUp(x, y);
+      },
+      "MouseUp");
 }
 
 void Control::UserMouseMove(int x, int y) {
@@ -293,7 +321,9 @@ void Control::UserMouseMove(int x, int y) {
   Raise([&] { events.MouseMove(x, y); }, "MouseMove");
 }
 
-void Control::UserMouseExit() { Raise(events.MouseExit, "MouseExit"); }
+void Control::UserMouseExit() {
+  Raise(events.MouseExit, "MouseExit");
+}
 
 void Control::UserDropFiles(const std::vector<std::string>& paths) {
   if (!enabled_ || !events.DropObject) return;

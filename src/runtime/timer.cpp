@@ -9,7 +9,9 @@ Timer::Timer(Window& owner, std::string name, int period_ms, int mode)
   SetMode(mode);
 }
 
-Timer::~Timer() { owner_.GetPlatform().timers.Disarm(*this); }
+Timer::~Timer() {
+  owner_.GetPlatform().timers.Disarm(*this);
+}
 
 void Timer::SetMode(int mode) {
   mode_ = (mode == kSingle || mode == kMultiple) ? mode : kOff;

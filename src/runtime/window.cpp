@@ -49,8 +49,7 @@ Control& Window::Get(std::string_view name) const {
 
 Control& Window::Item(std::string_view name, int index) const {
   Control* control = FindControl(name, index);
-  if (!control)
-    throw OutOfBoundsException(std::string(name) + "(" + std::to_string(index) + ")");
+  if (!control) throw OutOfBoundsException(std::string(name) + "(" + std::to_string(index) + ")");
   return *control;
 }
 

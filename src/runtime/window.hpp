@@ -99,7 +99,9 @@ class Window {
   using Observer = std::function<void(Control* control, Property property)>;
   // An observer for the window's whole life; Connect gives a handle to drop it sooner.
   void Observe(Observer observer) { changed_.Connect(std::move(observer)).Release(); }
-  [[nodiscard]] Connection Connect(Observer observer) { return changed_.Connect(std::move(observer)); }
+  [[nodiscard]] Connection Connect(Observer observer) {
+    return changed_.Connect(std::move(observer));
+  }
   void NotifyChanged(Control* control, Property property);
 
  protected:

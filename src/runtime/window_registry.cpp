@@ -19,7 +19,9 @@ void WindowRegistry::Register(std::string name, Factory factory) {
   slots_.push_back(std::make_unique<Slot>(Slot{std::move(name), std::move(factory), nullptr}));
 }
 
-bool WindowRegistry::Knows(std::string_view name) const { return Find(name) != nullptr; }
+bool WindowRegistry::Knows(std::string_view name) const {
+  return Find(name) != nullptr;
+}
 
 WindowRegistry::Slot* WindowRegistry::Find(std::string_view name) const {
   for (const auto& slot : slots_)

@@ -17,8 +17,8 @@ void GlobalStuff::RebuildFormats(int decimals) {
 }
 
 const char* ChooseSoundFromNumber(int number) {
-  static constexpr const char* kSounds[] = {"Basso",   "Boop", "Click", "Clickclack",
-                                            "Kachick", "Keybrd", "Pop", "Thump",
+  static constexpr const char* kSounds[] = {"Basso",   "Boop",   "Click",  "Clickclack",
+                                            "Kachick", "Keybrd", "Pop",    "Thump",
                                             "Tick",    "Type",   "Typetty"};
   return number >= 0 && number <= 10 ? kSounds[number] : nullptr;
 }

@@ -1,6 +1,5 @@
 #include "settings/preference_keys.hpp"
 
-
 namespace tessarine {
 
 namespace {
@@ -18,7 +17,7 @@ std::span<const PrefKeyInfo> AllPreferenceKeys() {
       TESSARINE_PREFERENCE_KEYS(TESSARINE_KEY_ROW)
 #undef TESSARINE_KEY_ROW
 #define TESSARINE_INDEXED_KEY_ROW(type, key, fallback) {#key, PrefType::type, true},
-      TESSARINE_INDEXED_PREFERENCE_KEYS(TESSARINE_INDEXED_KEY_ROW)
+          TESSARINE_INDEXED_PREFERENCE_KEYS(TESSARINE_INDEXED_KEY_ROW)
 #undef TESSARINE_INDEXED_KEY_ROW
   };
   return kAll;
@@ -49,10 +48,12 @@ double ReadPref(PrefsModule& store, const IndexedPrefKey<PrefType::Number>& key,
 bool ReadPref(PrefsModule& store, const IndexedPrefKey<PrefType::Boolean>& key, int index) {
   return store.GetBooleanValue(NameOf(key, index), key.fallback, true);
 }
-void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Number>& key, int index, double value) {
+void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Number>& key, int index,
+               double value) {
   store.SetNumberValue(NameOf(key, index), value, true);
 }
-void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Boolean>& key, int index, bool value) {
+void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Boolean>& key, int index,
+               bool value) {
   store.SetBooleanValue(NameOf(key, index), value, true);
 }
 

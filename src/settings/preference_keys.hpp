@@ -112,7 +112,9 @@ void WritePref(PrefsModule& store, const PrefKey<PrefType::Number>& key, double 
 void WritePref(PrefsModule& store, const PrefKey<PrefType::String>& key, const std::string& value);
 double ReadPref(PrefsModule& store, const IndexedPrefKey<PrefType::Number>& key, int index);
 bool ReadPref(PrefsModule& store, const IndexedPrefKey<PrefType::Boolean>& key, int index);
-void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Number>& key, int index, double value);
-void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Boolean>& key, int index, bool value);
+void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Number>& key, int index,
+               double value);
+void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Boolean>& key, int index,
+               bool value);
 
 }  // namespace tessarine

@@ -5,7 +5,9 @@ namespace tessarine {
 PrefsModule::PrefsModule(FileSystem& files, std::string decimal_separator)
     : files_(files), separator_(std::move(decimal_separator)) {}
 
-std::string PrefsModule::FilePath() const { return files_.PreferencesFolder() + "/" + name_; }
+std::string PrefsModule::FilePath() const {
+  return files_.PreferencesFolder() + "/" + name_;
+}
 
 void PrefsModule::SetName(const std::string& file_name, const std::string& creator) {
   if (!set_) {
@@ -63,8 +65,7 @@ double PrefsModule::GetNumberValue(const std::string& key, double fallback, bool
 bool PrefsModule::GetBooleanValue(const std::string& key, bool fallback, bool encrypted) {
   return Get(data_.booleans, key, fallback, encrypted);
 }
-void PrefsModule::SetStringValue(const std::string& key, const std::string& value,
-                                 bool encrypted) {
+void PrefsModule::SetStringValue(const std::string& key, const std::string& value, bool encrypted) {
   Set(data_.strings, key, value, encrypted);
 }
 void PrefsModule::SetNumberValue(const std::string& key, double value, bool encrypted) {

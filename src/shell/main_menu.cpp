@@ -42,12 +42,12 @@ void BuildMainMenu(MenuBar& bar) {
                "Speech",
                {Item("SpeechSpeakButtonMenu", "Speak Button"),
                 Item("SpeechSpeakTotalMenu", "Speak Total")}});
-  bar.AddMenu({"HelpMenu",
-               "Help",
-               {Item("VisitOurWebSiteMenu", "Visit Our Website"),
-                Item("DonateMenu", "Make a Donation"), Item("AppleAbout", "About Tessarine..."),
-                Item("AppleMenuSeparator", "-"),
-                Item("CheckForUpdatesMenu", "Check for Updates...", "Cmd+U")}});
+  bar.AddMenu(
+      {"HelpMenu",
+       "Help",
+       {Item("VisitOurWebSiteMenu", "Visit Our Website"), Item("DonateMenu", "Make a Donation"),
+        Item("AppleAbout", "About Tessarine..."), Item("AppleMenuSeparator", "-"),
+        Item("CheckForUpdatesMenu", "Check for Updates...", "Cmd+U")}});
 }
 
 std::string LinuxShortcut(std::string_view literal) {

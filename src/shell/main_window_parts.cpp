@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "conversion/convert_tab.hpp"
-#include "statistics/stats_tab.hpp"
-#include "fractions/fractions_tab.hpp"
 #include "expression/expression_tab.hpp"
+#include "fractions/fractions_tab.hpp"
+#include "statistics/stats_tab.hpp"
 
 namespace tessarine {
 

@@ -42,12 +42,16 @@ void Program::Start() {
   GetCalcWindow();
 }
 
-CalcWindow& Program::GetCalcWindow() { return windows_.Instance<CalcWindow>(CalcWindow::kName); }
+CalcWindow& Program::GetCalcWindow() {
+  return windows_.Instance<CalcWindow>(CalcWindow::kName);
+}
 
 CalcWindow* Program::ExistingCalcWindow() {
   return windows_.Existing<CalcWindow>(CalcWindow::kName);
 }
 
-TapeWindow& Program::GetTapeWindow() { return tessarine::GetTapeWindow(context_); }
+TapeWindow& Program::GetTapeWindow() {
+  return tessarine::GetTapeWindow(context_);
+}
 
 }  // namespace tessarine

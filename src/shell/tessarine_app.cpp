@@ -39,9 +39,9 @@ TessarineApp::TessarineApp(Program& program)
 
 void TessarineApp::Event_EnableMenuItems() {
   MenuBar& bar = menu_bar_;
-  for (const char* name : {"AppleAbout", "VisitOurWebSiteMenu", "FilePageSetup", "FilePrintTape",
-                           "FileTapeControlMenu", "EditPreferences", "DonateMenu",
-                           "CheckForUpdatesMenu"})
+  for (const char* name :
+       {"AppleAbout", "VisitOurWebSiteMenu", "FilePageSetup", "FilePrintTape",
+        "FileTapeControlMenu", "EditPreferences", "DonateMenu", "CheckForUpdatesMenu"})
     bar.SetEnabled(bar.Item(name), true);
   // The constants can't be chosen while clear entry is locked.
   const CalcWindow* calc = program_.ExistingCalcWindow();
@@ -55,7 +55,9 @@ void TessarineApp::Event_EnableMenuItems() {
   bar.SetEnabled(bar.Item("FileSaveTape"), program_.Globals().TapeChanged);
 }
 
-Window* TessarineApp::Front() { return program_.Windows().Front(); }
+Window* TessarineApp::Front() {
+  return program_.Windows().Front();
+}
 
 void TessarineApp::EnableMenuItems() {
   Window* front = Front();

@@ -14,7 +14,9 @@
 
 namespace {
 
-bool Same(double a, double b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+bool Same(double a, double b) {
+  return std::memcmp(&a, &b, sizeof a) == 0;
+}
 template <class T>
 bool Same(const T& a, const T& b) {
   return a == b;

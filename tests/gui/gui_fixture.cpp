@@ -55,7 +55,8 @@ GuiFixture::~GuiFixture() {
 
 QWidget* GuiFixture::Widget(const char* name, int index) {
   QWidget* widget = View().WidgetFor(name, index);
-  if (!widget) QTest::qFail(qPrintable(QStringLiteral("no widget for %1").arg(name)), __FILE__, __LINE__);
+  if (!widget)
+    QTest::qFail(qPrintable(QStringLiteral("no widget for %1").arg(name)), __FILE__, __LINE__);
   return widget;
 }
 

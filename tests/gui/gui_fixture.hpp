@@ -8,11 +8,10 @@
 #pragma once
 
 #include <QObject>
-#include <QTest>
-
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <memory>
 #include <string>

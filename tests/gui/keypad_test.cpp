@@ -7,8 +7,8 @@
 #include <QTimer>
 
 #include "control_widgets.hpp"
-#include "key_events.hpp"
 #include "gui_fixture.hpp"
+#include "key_events.hpp"
 #include "suites.hpp"
 #include "window_canvas.hpp"
 
@@ -165,7 +165,6 @@ class KeypadTest : public GuiSuite {
     QVERIFY(!message->isVisible());
     QCOMPARE(check_locked(false), QString());
   }
-
 };
 
 int RunKeypadTests(int argc, char** argv) {

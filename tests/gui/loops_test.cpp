@@ -1,8 +1,8 @@
 // Yields of long loops on the desktop: the event loop runs often enough to keep
 // the window drawn and timers going, input is held back while a loop runs and
 // delivered after it, and Ctrl + period ends C(n,k) under its progress sheet.
-#include <QElapsedTimer>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QProgressBar>
 #include <QTest>
 #include <QTimer>
@@ -99,7 +99,6 @@ class LoopsTest : public GuiSuite {
     f_->Type(QStringLiteral(".5"));
     QCOMPARE(f_->DisplayText(), QStringLiteral(".5"));
   }
-
 };
 
 int RunLoopsTests(int argc, char** argv) {

@@ -10,10 +10,10 @@
 
 #include "gui_fixture.hpp"
 #include "menu_bar_view.hpp"
-#include "window_dialog.hpp"
 #include "runtime/menu_bar.hpp"
 #include "shell/tessarine_app.hpp"
 #include "suites.hpp"
+#include "window_dialog.hpp"
 
 namespace tessarine::desktop::testing {
 
@@ -37,7 +37,9 @@ class MenusTest : public GuiSuite {
     model.SetText(model.Item("EditClear"), "Clear Display");
     QCOMPARE(f_->View().Menus().ActionFor("EditClear")->text(), QStringLiteral("Clear Display"));
     // A change of the tree builds the bar anew, without the old menus.
-    const auto menus = [bar] { return bar->findChildren<QMenu*>(Qt::FindDirectChildrenOnly).size(); };
+    const auto menus = [bar] {
+      return bar->findChildren<QMenu*>(Qt::FindDirectChildrenOnly).size();
+    };
     const qsizetype before = menus();  // the five, and the bar's own overflow menu
     MenuItem extra;
     extra.name = "ExtraItem";

@@ -94,7 +94,8 @@ class ModesTest : public GuiSuite {
     QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
     QVERIFY(field->toPlainText().contains(QLatin1Char('7')));
     // The field's text is the control's text.
-    QCOMPARE(QString::fromStdString(f_->Calc().Get("ExpressionField").Text()), field->toPlainText());
+    QCOMPARE(QString::fromStdString(f_->Calc().Get("ExpressionField").Text()),
+             field->toPlainText());
     // A change of tab takes the focus away: the keys are the keypad's again.
     auto* panel = qobject_cast<TabPanelWidget*>(f_->Widget("CalcTabSelector"));
     QTest::mouseClick(panel->Bar(), Qt::LeftButton, {}, panel->Bar()->tabRect(0).center());
@@ -131,7 +132,6 @@ class ModesTest : public GuiSuite {
     f_->WaitForResize();
     QCOMPARE(view.geometry().bottomLeft(), before.bottomLeft());
   }
-
 };
 
 int RunModesTests(int argc, char** argv) {

@@ -17,7 +17,8 @@ namespace {
 
 QString PdfText(const QString& path) {
   QProcess pdftotext;
-  pdftotext.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
+  pdftotext.start(QStringLiteral("pdftotext"),
+                  {QStringLiteral("-layout"), path, QStringLiteral("-")});
   if (!pdftotext.waitForFinished(30000)) return QString();
   return QString::fromUtf8(pdftotext.readAllStandardOutput());
 }
@@ -54,7 +55,8 @@ class PrintingTest : public QObject {
     const QString path = folder.filePath(QStringLiteral("tape.pdf"));
     QPrinter printer(QPrinter::HighResolution);
     ToPdf(printer, path);
-    const std::string tape = "\r             2     +\r             3     =\r             5     \xE2\x97\x8A\r";
+    const std::string tape =
+        "\r             2     +\r             3     =\r             5     \xE2\x97\x8A\r";
     QCOMPARE(PrintTapeText(Job(tape), printer), 1);
     const QString text = PdfText(path);
     // The text extractor keeps the order of lines, not every blank between value and mark.

@@ -163,7 +163,6 @@ class ViewTest : public GuiSuite {
     f_->Type(QStringLiteral("8"));
     QCOMPARE(f_->DisplayText(), QStringLiteral("8"));
   }
-
 };
 
 int RunViewTests(int argc, char** argv) {

@@ -15,11 +15,11 @@ namespace tessarine {
 namespace {
 
 const std::vector<std::string> kKeys = {
-    "Button0",          "Button1",      "Button2",          "Button3",       "Button4",
-    "Button5",          "Button6",      "Button7",          "Button8",       "Button9",
-    "ButtonDecimal",    "ButtonPlus",   "ButtonMinus",      "ButtonTimes",   "ButtonDivide",
-    "ButtonEqual",      "ButtonPercent", "ButtonClear",     "ButtonClearEntry",
-    "ButtonChangeSign", "ButtonExp",    "ButtonSciNotation",
+    "Button0",       "Button1",           "Button2",     "Button3",          "Button4",
+    "Button5",       "Button6",           "Button7",     "Button8",          "Button9",
+    "ButtonDecimal", "ButtonPlus",        "ButtonMinus", "ButtonTimes",      "ButtonDivide",
+    "ButtonEqual",   "ButtonPercent",     "ButtonClear", "ButtonClearEntry", "ButtonChangeSign",
+    "ButtonExp",     "ButtonSciNotation",
 };
 
 // Checks what must hold after any key, and says which key sequence broke it.
@@ -66,8 +66,12 @@ void RunSequences(const std::string& separator, std::uint64_t seed, int sequence
   }
 }
 
-TEST(KeypadRandomKeys, PointSeparator) { RunSequences(".", 1, 3000, 40); }
-TEST(KeypadRandomKeys, CommaSeparator) { RunSequences(",", 2, 3000, 40); }
+TEST(KeypadRandomKeys, PointSeparator) {
+  RunSequences(".", 1, 3000, 40);
+}
+TEST(KeypadRandomKeys, CommaSeparator) {
+  RunSequences(",", 2, 3000, 40);
+}
 
 }  // namespace
 }  // namespace tessarine

@@ -41,8 +41,8 @@ TEST(PrefsCrashSafety, AKilledWriteLeavesTheOldFileOrTheNewOne) {
     ::waitpid(child, nullptr, 0);
     const auto now = files.ReadFile(path);
     ASSERT_TRUE(now.has_value());
-    ASSERT_TRUE(*now == old_bytes || *now == new_bytes) << "trial " << trial << ": "
-                                                        << now->size() << " bytes";
+    ASSERT_TRUE(*now == old_bytes || *now == new_bytes)
+        << "trial " << trial << ": " << now->size() << " bytes";
     (*now == old_bytes ? saw_old : saw_new)++;
   }
   std::filesystem::remove_all(folder);

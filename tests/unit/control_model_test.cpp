@@ -160,7 +160,9 @@ TEST_F(ControlModelTest, TimersFireOnVirtualTimeInOrder) {
   once.Action = [&] {
     fired.push_back("once@" + std::to_string(headless.NowMicroseconds() / 1000));
   };
-  tick.Action = [&] { fired.push_back("tick@" + std::to_string(headless.NowMicroseconds() / 1000)); };
+  tick.Action = [&] {
+    fired.push_back("tick@" + std::to_string(headless.NowMicroseconds() / 1000));
+  };
   once.SetMode(Timer::kSingle);
   tick.SetMode(Timer::kMultiple);
   headless.Wait(99);

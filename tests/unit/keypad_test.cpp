@@ -25,15 +25,33 @@ class KeypadTest : public ::testing::Test {
     for (char key : keys) {
       std::string name;
       switch (key) {
-        case '.': name = "ButtonDecimal"; break;
-        case '+': name = "ButtonPlus"; break;
-        case '-': name = "ButtonMinus"; break;
-        case 'x': name = "ButtonTimes"; break;
-        case '/': name = "ButtonDivide"; break;
-        case '=': name = "ButtonEqual"; break;
-        case '%': name = "ButtonPercent"; break;
-        case 'C': name = "ButtonClear"; break;
-        default: name = std::string("Button") + key; break;
+        case '.':
+          name = "ButtonDecimal";
+          break;
+        case '+':
+          name = "ButtonPlus";
+          break;
+        case '-':
+          name = "ButtonMinus";
+          break;
+        case 'x':
+          name = "ButtonTimes";
+          break;
+        case '/':
+          name = "ButtonDivide";
+          break;
+        case '=':
+          name = "ButtonEqual";
+          break;
+        case '%':
+          name = "ButtonPercent";
+          break;
+        case 'C':
+          name = "ButtonClear";
+          break;
+        default:
+          name = std::string("Button") + key;
+          break;
       }
       W().Get(name).Click();
     }
@@ -67,8 +85,8 @@ TEST_F(KeypadTest, RebuiltMasksFollowTheNumberOfDecimals) {
     const char* exponent;
   };
   const Case cases[] = {
-      {0, ".05=", "5.", "-2"},   // 0.05 is below 0.1: scientific form
-      {0, ".5=", "1.", ""},      // 0.5 is not; no decimals: rounded away from zero
+      {0, ".05=", "5.", "-2"},  // 0.05 is below 0.1: scientific form
+      {0, ".5=", "1.", ""},     // 0.5 is not; no decimals: rounded away from zero
       {0, "2/3=", "1.", ""},
       {2, "2/3=", "0.67", ""},
       {2, ".005=", "5.", "-3"},  // below 0.01

@@ -16,7 +16,8 @@ TEST(PreferenceKeys, EachKeyIsDeclaredOnce) {
   std::set<std::string> seen;
   for (const PrefKeyInfo& key : AllPreferenceKeys()) {
     std::string folded;
-    for (char c : key.name) folded += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    for (char c : key.name)
+      folded += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     EXPECT_TRUE(seen.insert(folded).second) << key.name << " is declared twice";
   }
   // No plain key may be read as an indexed one's member ("SavedStorageValue1").

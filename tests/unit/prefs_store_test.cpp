@@ -40,15 +40,14 @@ TEST(PrefsScramble, ShiftsByTheLengthWithOneCorrection) {
 }
 
 TEST(PrefsRecords, ReadsEveryRecordType) {
-  const std::string file =
-      Head(1, true, "On") + Bytes({1}) +                       // boolean, scrambled
-      Head(1, false, "Off") + Bytes({7}) +                     // any other byte is false
-      Head(2, false, "I32") + Bytes({0xFF, 0xFF, 0xFF, 0xFE}) +  // -2
-      Head(3, false, "B") + Bytes({200}) +                     // an unsigned byte
-      Head(4, false, "I16") + Bytes({0x01, 0x00}) +            // 256
-      Head(5, true, "Name") + Bytes({0, 5}) + Encode("Hello") +
-      Head(6, false, "Colour") + Bytes({255, 0, 128}) +
-      Head(7, true, "Pi") + Bytes({0, 0, 0, 3, 0, 0, 0, 14});  // 3 and 14: 3.14
+  const std::string file = Head(1, true, "On") + Bytes({1}) +    // boolean, scrambled
+                           Head(1, false, "Off") + Bytes({7}) +  // any other byte is false
+                           Head(2, false, "I32") + Bytes({0xFF, 0xFF, 0xFF, 0xFE}) +  // -2
+                           Head(3, false, "B") + Bytes({200}) +           // an unsigned byte
+                           Head(4, false, "I16") + Bytes({0x01, 0x00}) +  // 256
+                           Head(5, true, "Name") + Bytes({0, 5}) + Encode("Hello") +
+                           Head(6, false, "Colour") + Bytes({255, 0, 128}) + Head(7, true, "Pi") +
+                           Bytes({0, 0, 0, 3, 0, 0, 0, 14});  // 3 and 14: 3.14
   const PrefsData data = ParsePrefsFile(file, ".");
   ASSERT_EQ(data.booleans.size(), 2u);
   EXPECT_EQ(data.booleans[0].key, "On");
@@ -93,9 +92,9 @@ TEST(PrefsRecords, NumbersTravelAsTextAndLoseWhatTheFormLoses) {
     double value, back;
   };
   const Case cases[] = {
-      {12.75, 12.75}, {0.05, 0.5},  // the fraction's leading zero is dropped
-      {-2.5, -3.5},                  // the whole part floored, the digits of the magnitude
-      {1000000, 1000000}, {0, 0}, {-7, -7},
+      {12.75, 12.75},     {0.05, 0.5},  // the fraction's leading zero is dropped
+      {-2.5, -3.5},                     // the whole part floored, the digits of the magnitude
+      {1000000, 1000000}, {0, 0},      {-7, -7},
   };
   for (const char* separator : {".", ","}) {
     for (const Case& c : cases) {

@@ -22,7 +22,8 @@ TEST(Signal, CallbacksChangingTheSignalWhileItRuns) {
   Connection first = signal.Connect([&](int n) {
     heard.push_back("first " + std::to_string(n));
     second.Disconnect();  // not called in this round any more
-    if (!added.Connected()) added = signal.Connect([&](int m) { heard.push_back("added " + std::to_string(m)); });
+    if (!added.Connected())
+      added = signal.Connect([&](int m) { heard.push_back("added " + std::to_string(m)); });
   });
   second = signal.Connect([&](int n) { heard.push_back("second " + std::to_string(n)); });
   signal.Emit(1);
@@ -45,7 +46,8 @@ TEST(WindowRegistry, OneOpenInstanceAndAFreshOneAfterAClose) {
   HeadlessPlatform headless(".", nullptr);
   WindowRegistry windows;
   int made = 0;
-  windows.Register("Sheet", [&] { return std::make_unique<NamedWindow>(headless.platform(), ++made); });
+  windows.Register("Sheet",
+                   [&] { return std::make_unique<NamedWindow>(headless.platform(), ++made); });
   int heard = 0;
   Connection watch = windows.WindowMade.Connect([&](Window&) { ++heard; });
 
