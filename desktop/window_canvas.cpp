@@ -16,8 +16,10 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTabBar>
 #include <QTextCursor>
+#include <algorithm>
 
 #include "control_look.hpp"
 #include "control_widgets.hpp"
@@ -332,6 +334,17 @@ QWidget* WindowCanvas::Make(Control& control) {
     }
     case ControlKind::PagePanel:
     case ControlKind::Canvas: {
+      if (Left(control.Name(), 11) == "CautionIcon") {
+        // The caution icon the program draws on its alerts: the desktop theme's.
+        auto* icon = new QLabel(&canvas_);
+        const int side = std::min(control.Width(), control.Height());
+        icon->setPixmap(QApplication::style()
+                            ->standardIcon(QStyle::SP_MessageBoxWarning)
+                            .pixmap(QSize(side, side), icon->devicePixelRatioF()));
+        icon->setAlignment(Qt::AlignCenter);
+        widget = icon;
+        break;
+      }
       widget = new QWidget(&canvas_);
       if (control.Kind() == ControlKind::PagePanel)
         widget->setAttribute(Qt::WA_TransparentForMouseEvents);
