@@ -82,7 +82,8 @@ class PreferencesTest : public GuiSuite {
     Preferences()->close();
     QTRY_VERIFY(!Preferences());
     QTRY_VERIFY(menus.ActionFor("MenuConstant", 9));
-    QCOMPARE(menus.ActionFor("MenuConstant", 0)->text(), QStringLiteral("Boltzmann Constant (J/K)"));
+    QCOMPARE(menus.ActionFor("MenuConstant", 0)->text(),
+             QStringLiteral("Boltzmann Constant (J/K)"));
     QCOMPARE(menus.ActionFor("MenuConstant", 9)->text(), QStringLiteral("Answer"));
     menus.ActionFor("MenuConstant", 9)->trigger();
     QCOMPARE(f_->DisplayText(), QStringLiteral("42."));
