@@ -28,8 +28,9 @@ constexpr ToolbarButton kToolbar[] = {
     {"ProxyButtonCanvas", "Network", PreferencesWindow::kNetwork, 365, 310},
 };
 
-CalcWindow& Calc(AppContext& app) {
-  return app.windows.Instance<CalcWindow>(CalcWindow::kName);
+// The main window, if it was made: the preferences never make it anew.
+CalcWindow* Calc(AppContext& app) {
+  return app.windows.Existing<CalcWindow>(CalcWindow::kName);
 }
 
 }  // namespace
@@ -198,8 +199,7 @@ void PreferencesWindow::DecimalsUpDownArrows_Down() {
 // The masks follow the number itself, never the field's text.
 void PreferencesWindow::NumberOfDecimalsEditField_TextChange() {
   app_.globals.RebuildFormats(app_.globals.NumberOfDecimals);
-  CalcWindow& calc = Calc(app_);
-  calc.FormatResult(calc.Result);
+  if (CalcWindow* calc = Calc(app_)) calc->FormatResult(calc->Result);
 }
 
 void PreferencesWindow::HelptagsEnabled(bool) {}
@@ -222,7 +222,7 @@ void PreferencesWindow::Event_Close() {
   GlobalStuff& g = app_.globals;
   PrefsModule& store = app_.prefs;
   const bool tags = Get("ShowHelpTagsCheckBox").IsDown();
-  Calc(app_).HelpTagsEnabled(tags);
+  if (CalcWindow* calc = Calc(app_)) calc->HelpTagsEnabled(tags);
   g.ShowHelpTags = tags;
   ApplyConstants(app_);
   StoreSounds(*this, app_);
