@@ -9,7 +9,7 @@
 PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenchmark-dev clang \
             libclang-rt-14-dev \
             nlohmann-json3-dev locales \
-            qt6-base-dev qt6-multimedia-dev libspeechd-dev speech-dispatcher poppler-utils \
+            qt6-base-dev qt6-multimedia-dev qt6-svg-dev libspeechd-dev speech-dispatcher poppler-utils \
             fonts-liberation2 xvfb xauth xdotool imagemagick clang-format clang-tidy
 
 SAN ?= 0

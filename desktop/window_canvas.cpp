@@ -25,6 +25,7 @@
 #include "control_widgets.hpp"
 #include "file_drop.hpp"
 #include "key_caption.hpp"
+#include "picture_canvas.hpp"
 #include "runtime/text.hpp"
 #include "text_selection.hpp"
 
@@ -294,6 +295,7 @@ QWidget* WindowCanvas::Make(Control& control) {
     case ControlKind::NumberOnlyEditField: {
       auto* edit = new QLineEdit(&canvas_);
       edit->setFocusPolicy(Qt::ClickFocus);  // a field takes the keys only when clicked
+      if (control.Name() == "PasswordEditField") edit->setEchoMode(QLineEdit::Password);
       connect(edit, &QLineEdit::textEdited, this,
               [this, c, edit](const QString& text) { UserEdited(*c, edit, text.toStdString()); });
       connect(edit, &QLineEdit::cursorPositionChanged, this,
@@ -334,6 +336,8 @@ QWidget* WindowCanvas::Make(Control& control) {
     }
     case ControlKind::PagePanel:
     case ControlKind::Canvas: {
+      if (control.Kind() == ControlKind::Canvas && (widget = MakePictureCanvas(control, &canvas_)))
+        break;
       if (Left(control.Name(), 11) == "CautionIcon") {
         // The caution icon the program draws on its alerts: the desktop theme's.
         auto* icon = new QLabel(&canvas_);
@@ -473,6 +477,8 @@ void WindowCanvas::Apply(const Bound& bound, Property property) {
       if (!user_editing_) ShowSelection(widget, control);
       break;
   }
+  // A canvas paints from its control's state (a toolbar button's caption and selection).
+  if (control.Kind() == ControlKind::Canvas) widget->update();
 }
 
 void WindowCanvas::ApplyText(const Bound& bound) {

@@ -39,7 +39,13 @@ void CalcWindow::_EditClear_Action() {
   Push(Get("ButtonClear"));
 }
 
-// FORWARD CALL: does nothing until the constants catalogue fills the menu.
-void CalcWindow::_MenuConstant_Action(int) {}
+// The value as the preferences window last left it, though the entry's text may
+// still be the old one until that window closes.
+void CalcWindow::_MenuConstant_Action(int index) {
+  Result = CDbl(globals_.ConstantValue(index));
+  UpdateDisplay();
+  ClearDisplay = false;
+  ClearDisplay2 = false;
+}
 
 }  // namespace tessarine

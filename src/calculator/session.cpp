@@ -8,6 +8,7 @@
 #include "runtime/arithmetic.hpp"
 #include "runtime/date.hpp"
 #include "runtime/text.hpp"
+#include "settings/constants_catalogue.hpp"
 #include "settings/preference_keys.hpp"
 
 namespace tessarine {
@@ -93,6 +94,9 @@ void CalcWindow::Event_Open() {
     }
   }
   for (int n = 1; n <= 10; ++n) Get("StorageMenu").SetRow(n - 1, StorageRowText(n));
+
+  // 11. The Constants menu.
+  LoadConstants(app_);
 
   // 12. Speech: the key holds the state before one flip.
   MenuBar& bar = app_.menu_bar;

@@ -1,5 +1,7 @@
 #include "runtime/menu_bar.hpp"
 
+#include <algorithm>
+
 #include "runtime/exceptions.hpp"
 #include "runtime/text.hpp"
 
@@ -44,6 +46,28 @@ void MenuBar::SetText(MenuItem& item, std::string text) {
   if (item.text == text) return;
   item.text = std::move(text);
   Notify(&item);
+}
+
+void MenuBar::ResizeItemArray(std::string_view name, int count) {
+  MenuItem& first = Item(name, 0);
+  for (Menu& menu : menus_) {
+    auto& items = menu.items;
+    if (items.empty() || &first < items.data() || &first >= items.data() + items.size()) continue;
+    MenuItem blank = first;
+    blank.text.clear();
+    std::erase_if(items, [&](const MenuItem& item) {
+      return StrEq(item.name, name) && item.index >= std::max(count, 1);
+    });
+    auto last = std::find_if(items.rbegin(), items.rend(),
+                             [&](const MenuItem& item) { return StrEq(item.name, name); });
+    auto at = last.base();
+    for (int index = (*last).index + 1; index < count; ++index) {
+      blank.index = index;
+      at = items.insert(at, blank) + 1;
+    }
+    break;
+  }
+  Notify(nullptr);
 }
 
 void MenuBar::Notify(const MenuItem* item) {

@@ -43,6 +43,10 @@ class MenuBar {
   void SetEnabled(MenuItem& item, bool enabled);
   void SetChecked(MenuItem& item, bool checked);
   void SetText(MenuItem& item, std::string text);
+  // Makes an array of items (the constants) count items long, at least item 0:
+  // items past the count go, new ones follow the last as copies of item 0 without
+  // text. One change of the tree.
+  void ResizeItemArray(std::string_view name, int count);
 
   // Change notification for a front end: an item changed, or (nullptr) the tree.
   using Observer = std::function<void(const MenuItem* item)>;

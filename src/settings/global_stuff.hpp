@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "runtime/bounded_array.hpp"
+
 namespace tessarine {
 
 struct GlobalStuff {
@@ -46,6 +48,14 @@ struct GlobalStuff {
   // dialog picked.
   bool TapeChanged = false;
   std::string Document;
+
+  // The Constants menu's entries. NumberOfConstants counts the menu's entries and
+  // their keys; AlteredNumberOfConstants the arrays' while the preferences window
+  // edits them, so the menu catches up only when that window closes.
+  BoundedArray<std::string, 0, 200> ConstantName;
+  BoundedArray<std::string, 0, 200> ConstantValue;
+  int NumberOfConstants = 0;
+  int AlteredNumberOfConstants = 0;
 
   // Rebuilds the four display strings from a number of decimals (0 to 10), as the
   // preferences do when the user changes it.

@@ -57,4 +57,16 @@ void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Boolean>& key,
   store.SetBooleanValue(NameOf(key, index), value, true);
 }
 
+std::string ReadPref(PrefsModule& store, const IndexedPrefKey<PrefType::String>& key, int index) {
+  return ReadPref(store, key, index, std::string(key.fallback));
+}
+std::string ReadPref(PrefsModule& store, const IndexedPrefKey<PrefType::String>& key, int index,
+                     const std::string& fallback) {
+  return store.GetStringValue(NameOf(key, index), fallback, true);
+}
+void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::String>& key, int index,
+               const std::string& value) {
+  store.SetStringValue(NameOf(key, index), value, true);
+}
+
 }  // namespace tessarine

@@ -14,44 +14,54 @@ namespace tessarine {
 
 // X(type, key, default): one row a key, in the order a first start writes them.
 // Keys with a number after them ("SavedStorageValue3") are INDEXED rows.
-#define TESSARINE_PREFERENCE_KEYS(X)             \
-  X(Boolean, ShowToolTipHelpTags, true)          \
-  X(Boolean, ShowMemoryButtonsSetting, false)    \
-  X(Boolean, StartupWithAdvancedFeatures, false) \
-  X(String, StartWithTab, "Tab1")                \
-  X(Boolean, TapeOn, false)                      \
-  X(Boolean, TapeVisible, false)                 \
-  X(Number, LeftPosition, 220)                   \
-  X(Number, TopPosition, 100)                    \
-  X(String, NoExpFormat, "-#.########")          \
-  X(String, ExpFormat, "-#.########e+")          \
-  X(String, SmallPosNumber, "0.0000001")         \
-  X(String, SmallNegNumber, "-0.0000001")        \
-  X(Number, NumOfDec, 6)                         \
-  X(Boolean, UseNumberSnd, true)                 \
-  X(Boolean, UseCalculationSnd, true)            \
-  X(Boolean, UseErrorSnd, true)                  \
-  X(Boolean, UseClearSnd, true)                  \
-  X(Boolean, UseResultSnd, true)                 \
-  X(Number, NumberSndNumber, 6)                  \
-  X(Number, CalculationSndNumber, 2)             \
-  X(Number, ErrorSndNumber, 1)                   \
-  X(Number, ClearSndNumber, 5)                   \
-  X(Number, ResultSndNumber, 10)                 \
-  X(Boolean, SaveDisplaySetting, false)          \
-  X(Boolean, SaveMemoryBanksSetting, false)      \
-  X(Boolean, SpeakButton, true)                  \
-  X(Boolean, SpeakTotal, true)                   \
-  X(Number, TapeLeftPosition, 10)                \
-  X(Number, TapeTopPosition, 100)                \
-  X(Number, TapeHeight, 250)                     \
-  X(String, SavedDisplayValue, "0")              \
-  X(String, SavedExpValue, "")                   \
-  X(Number, NumberOfLaunchesVal, 1)
+#define TESSARINE_PREFERENCE_KEYS(X)              \
+  X(Boolean, ShowToolTipHelpTags, true)           \
+  X(Boolean, ShowMemoryButtonsSetting, false)     \
+  X(Boolean, StartupWithAdvancedFeatures, false)  \
+  X(String, StartWithTab, "Tab1")                 \
+  X(Boolean, TapeOn, false)                       \
+  X(Boolean, TapeVisible, false)                  \
+  X(Number, LeftPosition, 220)                    \
+  X(Number, TopPosition, 100)                     \
+  X(String, NoExpFormat, "-#.########")           \
+  X(String, ExpFormat, "-#.########e+")           \
+  X(String, SmallPosNumber, "0.0000001")          \
+  X(String, SmallNegNumber, "-0.0000001")         \
+  X(Number, NumOfDec, 6)                          \
+  X(Boolean, UseNumberSnd, true)                  \
+  X(Boolean, UseCalculationSnd, true)             \
+  X(Boolean, UseErrorSnd, true)                   \
+  X(Boolean, UseClearSnd, true)                   \
+  X(Boolean, UseResultSnd, true)                  \
+  X(Number, NumberSndNumber, 6)                   \
+  X(Number, CalculationSndNumber, 2)              \
+  X(Number, ErrorSndNumber, 1)                    \
+  X(Number, ClearSndNumber, 5)                    \
+  X(Number, ResultSndNumber, 10)                  \
+  X(Boolean, SaveDisplaySetting, false)           \
+  X(Boolean, SaveMemoryBanksSetting, false)       \
+  X(Boolean, SpeakButton, true)                   \
+  X(Boolean, SpeakTotal, true)                    \
+  X(Number, TapeLeftPosition, 10)                 \
+  X(Number, TapeTopPosition, 100)                 \
+  X(Number, TapeHeight, 250)                      \
+  X(String, SavedDisplayValue, "0")               \
+  X(String, SavedExpValue, "")                    \
+  X(Number, NumberOfLaunchesVal, 1)               \
+  X(Number, NumberOfConstants, -1)                \
+  X(Boolean, UpdateExchangeRates, false)          \
+  X(Boolean, CheckForUpdates, false)              \
+  X(Boolean, UseProxyServer, false)               \
+  X(String, ProxyServerName, "proxy.example.com") \
+  X(String, ProxyServerPort, "8080")              \
+  X(String, ProxyServerUser, "username")          \
+  X(String, ProxyServerPassword, "")
 
 #define TESSARINE_INDEXED_PREFERENCE_KEYS(X) \
   X(Number, SavedStorageValue, 0)            \
-  X(Boolean, MemoryBankVisible, false)
+  X(Boolean, MemoryBankVisible, false)       \
+  X(String, ConstantName, "Error!")          \
+  X(String, ConstantValue, "Error!")
 
 enum class PrefType { Boolean, Number, String };
 
@@ -116,5 +126,11 @@ void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Number>& key, 
                double value);
 void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::Boolean>& key, int index,
                bool value);
+std::string ReadPref(PrefsModule& store, const IndexedPrefKey<PrefType::String>& key, int index);
+// With another default than the table's (the first start's constants).
+std::string ReadPref(PrefsModule& store, const IndexedPrefKey<PrefType::String>& key, int index,
+                     const std::string& fallback);
+void WritePref(PrefsModule& store, const IndexedPrefKey<PrefType::String>& key, int index,
+               const std::string& value);
 
 }  // namespace tessarine

@@ -5,6 +5,8 @@
 #include "calculator/tape_window.hpp"
 #include "conversion/currency_error_window.hpp"
 #include "shell/main_window_parts.hpp"
+#include "shell/preferences_window.hpp"
+#include "shell/restore_defaults_windows.hpp"
 #include "shell/tessarine_app.hpp"
 #include "statistics/stats_windows.hpp"
 
@@ -33,6 +35,13 @@ void Program::RegisterWindows() {
   windows_.Register(CurrencyErrorWindow::kName,
                     [this] { return std::make_unique<CurrencyErrorWindow>(platform_); });
   statistics::RegisterStatsWindows(context_);
+  windows_.Register(PreferencesWindow::kName,
+                    [this] { return std::make_unique<PreferencesWindow>(context_); });
+  windows_.Register(RestoreConstantsConfirmationWindow::kName, [this] {
+    return std::make_unique<RestoreConstantsConfirmationWindow>(context_);
+  });
+  windows_.Register(RestoreDefaultSoundsWindow::kName,
+                    [this] { return std::make_unique<RestoreDefaultSoundsWindow>(context_); });
 }
 
 void Program::Start() {

@@ -8,6 +8,7 @@
 #include "settings/deployment.hpp"
 #include "settings/preference_keys.hpp"
 #include "shell/main_menu.hpp"
+#include "shell/preferences_window.hpp"
 #include "shell/program.hpp"
 
 namespace tessarine {
@@ -15,20 +16,22 @@ namespace tessarine {
 TessarineApp::TessarineApp(Program& program)
     : program_(program), menu_bar_(program.Context().menu_bar) {
   BuildMainMenu(menu_bar_);
-  // FORWARD CALL: the items whose windows are not built yet (about, preferences,
-  // constants, donation, the update check) have their place here and do nothing.
+  // FORWARD CALL: the items whose windows are not built yet (about, donation, the
+  // update check) have their place here and do nothing.
   const auto nothing_yet = [] {};
   handlers_ = {
       {"VisitOurWebSiteMenu", [this] { _VisitOurWebSiteMenu_Action(); }},
       {"AppleAbout", nothing_yet},
-      {"EditPreferences", nothing_yet},
+      {"EditPreferences",
+       [this] { ShowPreferences(program_.Context(), PreferencesWindow::kGeneral); }},
       {"SpeechSpeakButtonMenu", [this] { program_.GetCalcWindow().SpeakButtonsClicked(); }},
       {"SpeechAcceptVoiceCommandsMenu",
        [this] { program_.GetCalcWindow().VoiceRecognitionClicked(); }},
       {"SpeechSpeakTotalMenu", [this] { program_.GetCalcWindow().SpeakTotalClicked(); }},
       {"FileTapeControlMenu", [this] { _FileTapeControlMenu_Action(); }},
       {"FileSaveTape", [this] { _FileSaveTape_Action(); }},
-      {"MenuCustomize", nothing_yet},
+      {"MenuCustomize",
+       [this] { ShowPreferences(program_.Context(), PreferencesWindow::kConstants); }},
       {"DonateMenu", nothing_yet},
       {"CheckForUpdatesMenu", nothing_yet},
       {"FilePageSetup", [this] { _FilePageSetup_Action(); }},

@@ -58,6 +58,8 @@ class MenusTest : public GuiSuite {
     QVERIFY(constant && copy);
     // An entry of the constants without a name is hidden (and so disabled); a
     // named one shows.
+    QVERIFY(constant->isVisible());
+    model.SetText(model.Item("MenuConstant", 0), "");
     QVERIFY(!constant->isVisible());
     model.SetText(model.Item("MenuConstant", 0), "Pi");
     QVERIFY(constant->isVisible());
