@@ -10,7 +10,9 @@ PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenc
             libclang-rt-14-dev \
             nlohmann-json3-dev locales \
             qt6-base-dev qt6-multimedia-dev qt6-svg-dev libspeechd-dev speech-dispatcher poppler-utils \
-            fonts-liberation2 xvfb xauth xdotool imagemagick clang-format clang-tidy
+            fonts-liberation2 xvfb xauth xdotool imagemagick clang-format clang-tidy \
+            pulseaudio pulseaudio-utils sox espeak-ng speech-dispatcher-espeak-ng \
+            speech-dispatcher-audio-plugins python3
 
 SAN ?= 0
 WERROR ?= 0
@@ -100,7 +102,11 @@ bench: deps
 	  cmake --build build-release -j $(JOBS) --target tessarine_bench startup_probe empty_qt_window; \
 	} && \
 	build-release/bench/tessarine_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true && \
-	bench/startup/run_startup_bench.sh -n $(STARTUP_ROUNDS) $$startup_args build-release
+	bench/startup/run_startup_bench.sh -n $(STARTUP_ROUNDS) $$startup_args build-release; \
+	if [ -z "$$startup_args" ]; then \
+	  tests/e2e/hear_keys.sh --latency-only build-release/desktop/tessarine \
+	    build-release/drive/tessarine-drive | tail -n 2 || true; \
+	fi
 
 # Fuzzes the preferences reader, then the expression engine, with libFuzzer for
 # FUZZ_SECONDS each (default 60); new inputs that find new paths go to scratch

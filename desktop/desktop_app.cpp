@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTimer>
 #include <QWindow>
 
 #include "calculator/calc_window.hpp"
@@ -12,6 +13,10 @@
 #include "window_dialog.hpp"
 
 namespace tessarine::desktop {
+
+namespace {
+constexpr int kFeedbackPreloadMs = 300;
+}  // namespace
 
 void ConfigureApplication(QApplication& app) {
   QApplication::setApplicationName(QStringLiteral("Tessarine"));
@@ -83,6 +88,9 @@ void DesktopApp::Start() {
                          windows.SetFront(windows.FindOpen(name));
                    });
   main_view_->show();
+  // The sounds load once the window is up: start-up does not wait for them, and the
+  // first key's click does not either.
+  QTimer::singleShot(kFeedbackPreloadMs, main_view_.get(), [this] { platform_.PreloadFeedback(); });
 }
 
 WindowDialog* DesktopApp::DialogFor(const std::string& window_name) const {

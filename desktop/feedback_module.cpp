@@ -16,6 +16,7 @@ class Feedback final : public FeedbackModule {
   explicit Feedback(const char* sounds_folder) : sounds_(QString::fromUtf8(sounds_folder)) {}
   void Speak(const std::string& text) override { speech_.Speak(text); }
   void PlaySound(const std::string& name) override { sounds_.Play(name); }
+  void Preload() override { sounds_.Preload(); }
 
  private:
   SpeechQueue speech_;

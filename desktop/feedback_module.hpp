@@ -13,6 +13,8 @@ class FeedbackModule {
   virtual ~FeedbackModule() = default;
   virtual void Speak(const std::string& text) = 0;
   virtual void PlaySound(const std::string& name) = 0;
+  // Reads every sound ahead of the first key.
+  virtual void Preload() = 0;
 };
 
 // The module's one entry point, looked up by name.

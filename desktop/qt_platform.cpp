@@ -173,6 +173,10 @@ void QtPlatform::PlaySound(const std::string& name) {
   if (FeedbackModule* feedback = Feedback()) feedback->PlaySound(name);
 }
 
+void QtPlatform::PreloadFeedback() {
+  if (FeedbackModule* feedback = Feedback()) feedback->Preload();
+}
+
 std::optional<std::string> QtPlatform::AskSaveFile() {
   QFileDialog dialog(host_ ? host_->DialogParent() : nullptr, QStringLiteral("Save Tape"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);

@@ -78,6 +78,9 @@ class QtPlatform final : public QObject,
   QtPlatform(const QtPlatform&) = delete;
   QtPlatform& operator=(const QtPlatform&) = delete;
 
+  // Loads the feedback module and its sounds before the first key needs them.
+  void PreloadFeedback();
+
   Platform& platform() { return platform_; }
   void SetWindowHost(WindowHost* host) { host_ = host; }
 

@@ -1,6 +1,7 @@
-// SoundPlayer: the eleven feedback sounds, played without waiting. Each is loaded
-// the first time it plays and kept for the life of the program; with no audio
-// device the program goes on silently.
+// SoundPlayer: the eleven feedback sounds, played without waiting. Preload reads
+// every sound of the folder ahead of the first key, so that no key waits for a file
+// to load; a sound not preloaded is loaded the first time it plays. Sounds are kept
+// for the life of the program; with no audio device the program goes on silently.
 #pragma once
 
 #include <QString>
@@ -18,9 +19,12 @@ class SoundPlayer {
   explicit SoundPlayer(QString folder);
   ~SoundPlayer();
 
+  void Preload();
   void Play(const std::string& name);
 
  private:
+  QSoundEffect* Load(const std::string& name);
+
   QString folder_;
   std::map<std::string, std::unique_ptr<QSoundEffect>> effects_;
 };

@@ -1,9 +1,12 @@
 // SpeechQueue: spoken feedback through the desktop's speech service
 // (speech-dispatcher). Texts are queued at text priority, so each follows the one
 // before and none interrupts another. The connection is opened at the first text,
-// not at start; without a speech service the program goes on silently.
+// not at start; without a speech service the program goes on silently. A service
+// that goes away is tried again at a later text, at most once every few seconds,
+// so that a missing service costs no key more than a failed connect.
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -21,7 +24,7 @@ class SpeechQueue {
  private:
   struct Connection;  // speech-dispatcher's, kept out of this header
   std::unique_ptr<Connection> connection_;
-  bool tried_ = false;  // one attempt to connect per run: a missing service stays missing
+  std::chrono::steady_clock::time_point next_try_{};  // no connect before this
 };
 
 }  // namespace tessarine::desktop
