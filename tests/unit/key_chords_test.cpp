@@ -1,5 +1,6 @@
-// Chords of docs/keyboard.md that the driver's chord script does not type, translated as
-// both front ends translate them.
+// Chords of docs/keyboard.md that the driver's chord script does not type, or types
+// without a way to see that they never reach the map, translated as both front ends
+// translate them.
 #include "shell/key_chords.hpp"
 
 #include <gtest/gtest.h>
@@ -34,7 +35,9 @@ constexpr ChordCase kChords[] = {
     {"Qt's Esc, any case", "esc", kNone, "\x1b", false},
     {"Qt's Backspace", "Backspace", kNone, "\b", false},
     // Keys with no text, and bare modifiers.
+    {"function key", "F5", kNone, nullptr, false},
     {"arrow", "Left", kNone, nullptr, false},
+    {"bare control", "Control_L", kCtrl, nullptr, false},
     {"bare shift", "Shift_R", kShift, nullptr, false},
     {"empty", "", kNone, nullptr, false},
     // Ctrl with the digits: the digit's text with control down.
@@ -51,7 +54,14 @@ constexpr ChordCase kChords[] = {
     {"ctrl M", "m", kCtrl, "\r", true},
     {"ctrl hyphen by character", "-", kCtrl, "\x1f", true},
     {"ctrl underscore", "underscore", kCtrlShift, "\x1f", true},
+    {"ctrl C: Copy", "c", kCtrl, nullptr, false},
+    {"ctrl V: Paste", "v", kCtrl, nullptr, false},
+    {"ctrl Q: Quit", "q", kCtrl, nullptr, false},
+    {"ctrl T: Show Tape", "t", kCtrl, nullptr, false},
+    {"ctrl Z: Undo", "z", kCtrl, nullptr, false},
+    {"ctrl X: Cut", "x", kCtrl, nullptr, false},
     {"ctrl shift Z", "Z", kCtrlShift, nullptr, false},
+    {"ctrl shift U: Check for Updates", "U", kCtrlShift, nullptr, false},
     // Alt: the Option layer.
     {"alt 3", "3", kAlt, "£", false},
     {"alt Y", "y", kAlt, "¥", false},
@@ -62,6 +72,7 @@ constexpr ChordCase kChords[] = {
     {"alt shift, letter given small", "s", kAltShift, "Í", false},
     {"alt capital without shift", "T", kAlt, "†", false},
     {"ctrl alt shift T: hyperbolic arc tangent", "T", kCtrlAltShift, "ˇ", true},
+    {"alt with no Option row", "f", kAlt, nullptr, false},
     {"alt shift P", "P", kAltShift, nullptr, false},
     {"alt Return", "Return", kAlt, nullptr, false},
     {"alt period", "period", kAlt, nullptr, false},
