@@ -1,3 +1,6 @@
+// The fraction calculator's rules the driver scripts do not reach: signs in the
+// remaining positions, separators and operators out of the way, a wrapping bottom,
+// and the result moved to the inputs.
 #include "fractions/fraction_calculator.hpp"
 
 #include <gtest/gtest.h>
@@ -9,7 +12,6 @@ namespace tessarine {
 namespace {
 
 constexpr const char* kMinus = "\u2013";
-constexpr const char* kDivide = "\u00F7";
 
 // whole1, numtop1, numbottom1, whole2, numtop2, numbottom2 as typed.
 struct Operands {
@@ -55,32 +57,13 @@ void RunRows(const std::vector<Row>& rows) {
   }
 }
 
-TEST(FractionCalculatorTest, WorkedExamples) {
-  // clang-format off
-  RunRows({
-      {"2/5 + 3/5 is 25/25 reduced", "+", {"", "2", "5", "", "3", "5"},
-       {"", "2", "5", "", "3", "5", "", "1", "1"}, 0},
-      {"1/5 + 4/5 is 25/25 reduced", "+", {"", "1", "5", "", "4", "5"},
-       {"", "1", "5", "", "4", "5", "", "1", "1"}, 0},
-  });
-  // clang-format on
-}
-
 TEST(FractionCalculatorTest, SignsInEveryPosition) {
   // clang-format off
   RunRows({
-      {"1/2 - 1/3", kMinus, {"", "1", "2", "", "1", "3"},
-       {"", "1", "2", "", "1", "3", "", "1", "6"}, 0},
       {"1/3 - 1/2 goes below zero", kMinus, {"", "1", "3", "", "1", "2"},
        {"", "1", "3", "", "1", "2", "", "-1", "6"}, 0},
-      {"-1/2 - -1/3", kMinus, {"", "-1", "2", "", "-1", "3"},
-       {"", "-1", "2", "", "-1", "3", "", "-1", "6"}, 0},
-      {"a minus on a bottom is ignored", "+", {"", "1", "-2", "", "1", "2"},
-       {"", "1", "-2", "", "1", "2", "", "1", "1"}, 0},
       {"-1/2 x -1/3", "x", {"", "-1", "2", "", "-1", "3"},
        {"", "-1", "2", "", "-1", "3", "", "1", "6"}, 0},
-      {"1/2 / 1/3", kDivide, {"", "1", "2", "", "1", "3"},
-       {"", "1", "2", "", "1", "3", "1", "1", "2"}, 0},
       {"a minus that cuts to zero counts as none", "+", {"-0.5", "1", "2", "", "1", "2"},
        {"-0.5", "1", "2", "", "1", "2", "", "1", "1"}, 0},
   });
@@ -103,8 +86,6 @@ TEST(FractionCalculatorTest, DenominatorsAndOperatorsOutOfTheWay) {
 TEST(FractionCalculatorTest, WrapsNear2To31) {
   // clang-format off
   RunRows({
-      {"negating the lowest integer gives it back", "+", {"-1", "-2147483648", "1", "", "", ""},
-       {"-1", "-2147483648", "1", "", "", "1", "-2147483647", "", ""}, 1},
       {"a bottom that wraps to -1", "+", {"", "1", "3", "", "1", "1431655765"},
        {"", "1", "3", "", "1", "1431655765", "-1431655768", "", ""}, 0},
   });
@@ -121,13 +102,6 @@ TEST(FractionCalculatorTest, EachBoxSeesTheFieldsOfItsMoment) {
                                   seen.push_back(now.numtop1 + " " + now.numtop2);
                                 });
   EXPECT_EQ(seen, (std::vector<std::string>{"-1 -1", "1 -1"}));
-}
-
-TEST(FractionCalculatorTest, ClearEmptiesTheNineFieldsWithASound) {
-  FractionCalculatorFields f{"1", "2", "3", "4", "5", "6", "7", "8", "9"};
-  const FractionFeedback feedback = FractionClearButtonAction(f);
-  Expect(f, {}, "clear");
-  EXPECT_EQ(feedback.sounds, std::vector<FractionSound>{FractionSound::kPlayClearSound});
 }
 
 TEST(FractionCalculatorTest, TransferMovesAResultOnly) {

@@ -70,22 +70,6 @@ class ExpressionTest : public GuiSuite {
     QCOMPARE(field->toPlainText(), QStringLiteral("2+sin(1)"));
     QCOMPARE(ResultText(), QStringLiteral("2.8414709848078967"));
   }
-
-  void clickOnTheValueMovesItToTheKeypad() {
-    QVERIFY(OpenField());
-    f_->Type(QStringLiteral("1/8"));
-    QCOMPARE(ResultText(), QStringLiteral("0.125"));
-    f_->Click("ExpressionResult");
-    QCOMPARE(f_->Calc().Result, 0.125);
-    QCOMPARE(f_->DisplayText(), QStringLiteral("0.125"));
-  }
-
-  void runtimeErrorShowsItsBox() {
-    QVERIFY(OpenField());
-    f_->Type(QStringLiteral("7\\0"));
-    QCOMPARE(f_->TakeDialogs(), QStringList{QStringLiteral("Sorry, an error occured!")});
-    QCOMPARE(ResultText(), QString());
-  }
 };
 
 int RunExpressionTests(int argc, char** argv) {

@@ -58,30 +58,9 @@ class FractionsTest : public GuiSuite {
     QCOMPARE(Text("ResultWhole"), QStringLiteral("3"));
     QCOMPARE(Text("ResultNumTop"), QStringLiteral("1"));
     QCOMPARE(Text("ResultNumBottom"), QStringLiteral("12"));
-    f_->Calc().Get("PopupMenu3").SetListIndex(2);
-    QCOMPARE(op->currentText(), QStringLiteral("x"));
-    f_->Click("FractionCalculateButton");
-    QCOMPARE(Text("ResultWhole"), QStringLiteral("1"));
-    QCOMPARE(Text("ResultNumTop"), QStringLiteral("3"));
-    QCOMPARE(Text("ResultNumBottom"), QStringLiteral("4"));
     f_->Click("FractionClearButton");
     QCOMPARE(Text("whole1"), QString());
     QCOMPARE(Text("ResultNumBottom"), QString());
-  }
-
-  void twoMinusesShowTheBoxAndTheTopLosesItsMinus() {
-    OpenTab();
-    TypeInto("whole1", QStringLiteral("-1"));
-    TypeInto("numtop1", QStringLiteral("-1"));
-    TypeInto("numbottom1", QStringLiteral("2"));
-    f_->Click("FractionCalculateButton");
-    QCOMPARE(
-        f_->TakeDialogs(),
-        QStringList{QStringLiteral("There can only be one negative value for each mixed number.")});
-    QCOMPARE(Text("numtop1"), QStringLiteral("1"));
-    QCOMPARE(Text("ResultWhole"), QStringLiteral("-1"));
-    QCOMPARE(Text("ResultNumTop"), QStringLiteral("1"));
-    QCOMPARE(Text("ResultNumBottom"), QStringLiteral("2"));
   }
 
   void modePopupShowsEachPage() {

@@ -32,19 +32,6 @@ class KeypadTest : public GuiSuite {
     QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
   }
 
-  void modifiedChordsGoThroughTheTranslation() {
-    // Ctrl + 2 squares (the control key's row), Alt + 2 takes the square root
-    // (the Option layer), Ctrl + hyphen changes the sign.
-    f_->Type(QStringLiteral("3"));
-    f_->Key(Qt::Key_2, Qt::ControlModifier);
-    QCOMPARE(f_->DisplayText(), QStringLiteral("9."));
-    f_->Key(Qt::Key_2, Qt::AltModifier);
-    QCOMPARE(f_->DisplayText(), QStringLiteral("3."));
-    f_->Key(Qt::Key_Minus, Qt::ControlModifier);
-    QCOMPARE(f_->DisplayText(), QStringLiteral("-3."));
-    QCOMPARE(f_->Calc().Result, -3.0);
-  }
-
   void qtKeysBecomeChords() {
     // What a Qt key event is to the core's translation, and what reaches the map.
     struct Case {

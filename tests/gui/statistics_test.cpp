@@ -64,29 +64,6 @@ class StatisticsTest : public GuiSuite {
     QCOMPARE(list->toPlainText(), QStringLiteral("1, 2, "));
   }
 
-  void descriptivesShowTheSample() {
-    FeedSamples();
-    ShowComputation(0);
-    auto* text = SheetWidget<QPlainTextEdit>("DescriptivesWindow", "DescriptivesEditField");
-    QVERIFY(text);
-    const QString shown = text->toPlainText();
-    for (const char* line : {"N=3", "Min=1", "Max=3", "Mean=2", "Med=2", "Var=1", "Sum=6"})
-      QVERIFY2(shown.contains(QLatin1String(line)), qPrintable(shown));
-    QTest::mouseClick(SheetWidget<QPushButton>("DescriptivesWindow", "DescriptivesCloseButton"),
-                      Qt::LeftButton);
-    QTRY_VERIFY(!f_->App().DialogFor("DescriptivesWindow"));
-  }
-
-  void ttestShowsTOnItsLabel() {
-    FeedSamples();
-    ShowComputation(2);
-    QTest::mouseClick(SheetWidget<QPushButton>("ttestWindow", "OKButton"), Qt::LeftButton);
-    auto* result = SheetWidget<QLabel>("ttestWindow", "ttestResultText");
-    QVERIFY(result);
-    QCOMPARE(result->text(), QStringLiteral("t (4) = 1.225, p = 0.2879"));
-    QVERIFY(result->isVisible());
-  }
-
   void anovaErrorBringsAFreshSheetBack() {
     FeedSamples();
     ShowComputation(1);

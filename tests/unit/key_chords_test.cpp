@@ -1,4 +1,6 @@
-// Every chord of docs/keyboard.md, translated as both front ends translate it.
+// Chords of docs/keyboard.md that the driver's chord script does not type, or types
+// without a way to see that they never reach the map, translated as both front ends
+// translate them.
 #include "shell/key_chords.hpp"
 
 #include <gtest/gtest.h>
@@ -8,7 +10,7 @@ namespace {
 
 constexpr ChordModifiers kNone{}, kCtrl{true, false, false}, kAlt{false, true, false},
     kShift{false, false, true}, kAltShift{false, true, true}, kCtrlShift{true, false, true},
-    kCtrlAlt{true, true, false}, kCtrlAltShift{true, true, true};
+    kCtrlAltShift{true, true, true};
 
 struct ChordCase {
   const char* name;
@@ -20,26 +22,17 @@ struct ChordCase {
 
 constexpr ChordCase kChords[] = {
     // Keys typed bare pass their character as given, whatever its case.
-    {"digit", "7", kNone, "7", false},
     {"letter", "p", kNone, "p", false},
     {"capital letter", "X", kShift, "X", false},
-    {"shift 1 as the layout gives it", "!", kShift, "!", false},
     {"a character with no row", "é", kNone, "é", false},
-    {"space by name", "space", kNone, " ", false},
     {"space by character", " ", kNone, " ", false},
-    {"hyphen by name", "minus", kNone, "-", false},
     {"period by name", "period", kNone, ".", false},
     {"plus-minus key", "plusminus", kNone, "±", false},
     {"keypad digit", "KP_5", kNone, "5", false},
-    {"keypad operator", "KP_Multiply", kNone, "*", false},
     {"keypad point", "KP_Decimal", kNone, ".", false},
     {"keypad comma", "KP_Separator", kNone, ",", false},
-    {"Return", "Return", kNone, "\r", false},
-    {"keypad Enter", "KP_Enter", kNone, "\x03", false},
     {"Qt's keypad Enter", "Enter", kNone, "\x03", false},
-    {"Escape", "Escape", kNone, "\x1b", false},
     {"Qt's Esc, any case", "esc", kNone, "\x1b", false},
-    {"BackSpace", "BackSpace", kNone, "\b", false},
     {"Qt's Backspace", "Backspace", kNone, "\b", false},
     // Keys with no text, and bare modifiers.
     {"function key", "F5", kNone, nullptr, false},
@@ -48,21 +41,10 @@ constexpr ChordCase kChords[] = {
     {"bare shift", "Shift_R", kShift, nullptr, false},
     {"empty", "", kNone, nullptr, false},
     // Ctrl with the digits: the digit's text with control down.
-    {"ctrl 1", "1", kCtrl, "1", true},
-    {"ctrl 2", "2", kCtrl, "2", true},
-    {"ctrl 3", "3", kCtrl, "3", true},
-    {"ctrl 5", "5", kCtrl, "5", true},
-    {"ctrl 6", "6", kCtrl, "6", true},
-    {"ctrl 4", "4", kCtrl, "4", true},
-    {"ctrl 0", "0", kCtrl, "0", true},
     {"ctrl keypad 2", "KP_2", kCtrl, "2", true},
-    {"ctrl period, the abort chord", "period", kCtrl, ".", true},
     // Ctrl with letters: the control code; the menus keep theirs.
-    {"ctrl P", "p", kCtrl, "\x10", true},
-    {"ctrl R", "r", kCtrl, "\x12", true},
-    {"ctrl L", "l", kCtrl, "\x0c", true},
     {"ctrl A", "a", kCtrl, "\x01", true},
-    {"ctrl Y", "y", kCtrl, "\x19", true},
+    {"ctrl L", "l", kCtrl, "\x0c", true},
     {"ctrl E", "e", kCtrl, "\x05", true},
     {"ctrl N", "n", kCtrl, "\x0e", true},
     {"ctrl U", "u", kCtrl, "\x15", true},
@@ -70,7 +52,6 @@ constexpr ChordCase kChords[] = {
     {"ctrl shift P, given as a capital", "P", kCtrlShift, "\x10", true},
     {"ctrl H", "h", kCtrl, "\b", true},
     {"ctrl M", "m", kCtrl, "\r", true},
-    {"ctrl hyphen", "minus", kCtrl, "\x1f", true},
     {"ctrl hyphen by character", "-", kCtrl, "\x1f", true},
     {"ctrl underscore", "underscore", kCtrlShift, "\x1f", true},
     {"ctrl C: Copy", "c", kCtrl, nullptr, false},
@@ -82,20 +63,14 @@ constexpr ChordCase kChords[] = {
     {"ctrl shift Z", "Z", kCtrlShift, nullptr, false},
     {"ctrl shift U: Check for Updates", "U", kCtrlShift, nullptr, false},
     // Alt: the Option layer.
-    {"alt P", "p", kAlt, "π", false},
-    {"alt 2", "2", kAlt, "™", false},
     {"alt 3", "3", kAlt, "£", false},
     {"alt Y", "y", kAlt, "¥", false},
-    {"alt S", "s", kAlt, "ß", false},
     {"alt C", "c", kAlt, "ç", false},
     {"alt T", "t", kAlt, "†", false},
-    {"alt D", "d", kAlt, "¶", false},
-    {"alt shift S", "S", kAltShift, "Í", false},
     {"alt shift C", "C", kAltShift, "Ç", false},
     {"alt shift T", "T", kAltShift, "ˇ", false},
     {"alt shift, letter given small", "s", kAltShift, "Í", false},
     {"alt capital without shift", "T", kAlt, "†", false},
-    {"ctrl alt S: hyperbolic sine", "s", kCtrlAlt, "ß", true},
     {"ctrl alt shift T: hyperbolic arc tangent", "T", kCtrlAltShift, "ˇ", true},
     {"alt with no Option row", "f", kAlt, nullptr, false},
     {"alt shift P", "P", kAltShift, nullptr, false},
