@@ -23,6 +23,7 @@
 #include "control_widgets.hpp"
 #include "file_drop.hpp"
 #include "key_caption.hpp"
+#include "picture_canvas.hpp"
 #include "runtime/text.hpp"
 #include "text_selection.hpp"
 
@@ -331,14 +332,12 @@ QWidget* WindowCanvas::Make(Control& control) {
       break;
     }
     case ControlKind::PagePanel:
-    case ControlKind::Canvas: {
       widget = new QWidget(&canvas_);
-      if (control.Kind() == ControlKind::PagePanel)
-        widget->setAttribute(Qt::WA_TransparentForMouseEvents);
-      else
-        widget->setMouseTracking(true);
+      widget->setAttribute(Qt::WA_TransparentForMouseEvents);
       break;
-    }
+    case ControlKind::Canvas:
+      widget = new PictureCanvas(&canvas_);
+      break;
     case ControlKind::RoundRectangle:
       widget = new ShapeWidget(ShapeWidget::Shape::RoundRectangle, &canvas_);
       break;
@@ -444,7 +443,9 @@ void WindowCanvas::Apply(const Bound& bound, Property property) {
     case Property::Visible:
       break;  // SyncVisibility
     case Property::HelpTag:
+      // The tag is the tip and, for those who can't see it, the description.
       widget->setToolTip(Q(control.HelpTag()));
+      widget->setAccessibleDescription(Q(control.HelpTag()));
       break;
     case Property::TextColor:
     case Property::TextSize:
@@ -493,6 +494,9 @@ void WindowCanvas::ApplyText(const Bound& bound) {
   } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
     button->setText(Caption(control.Text()));
     button->setAccessibleName(control.Text().empty() ? name : Q(control.Text()));
+  } else if (auto* picture = qobject_cast<PictureCanvas*>(widget)) {
+    picture->SetPictureName(Q(control.Text()));
+    picture->setAccessibleName(name);
   } else if (auto* box = qobject_cast<QGroupBox*>(widget)) {
     box->setTitle(Caption(control.Text()));
     box->setAccessibleName(control.Text().empty() ? name : Q(control.Text()));

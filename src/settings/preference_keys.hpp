@@ -47,7 +47,8 @@ namespace tessarine {
   X(Number, TapeHeight, 250)                     \
   X(String, SavedDisplayValue, "0")              \
   X(String, SavedExpValue, "")                   \
-  X(Number, NumberOfLaunchesVal, 1)
+  X(Number, NumberOfLaunchesVal, 1)              \
+  X(Boolean, ShowDonationReminder, true)
 
 #define TESSARINE_INDEXED_PREFERENCE_KEYS(X) \
   X(Number, SavedStorageValue, 0)            \

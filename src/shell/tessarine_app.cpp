@@ -7,6 +7,8 @@
 #include "runtime/text.hpp"
 #include "settings/deployment.hpp"
 #include "settings/preference_keys.hpp"
+#include "shell/about_window.hpp"
+#include "shell/donation_links.hpp"
 #include "shell/main_menu.hpp"
 #include "shell/program.hpp"
 
@@ -15,12 +17,12 @@ namespace tessarine {
 TessarineApp::TessarineApp(Program& program)
     : program_(program), menu_bar_(program.Context().menu_bar) {
   BuildMainMenu(menu_bar_);
-  // FORWARD CALL: the items whose windows are not built yet (about, preferences,
-  // constants, donation, the update check) have their place here and do nothing.
+  // FORWARD CALL: the items whose windows are not built yet (preferences,
+  // constants, the update check) have their place here and do nothing.
   const auto nothing_yet = [] {};
   handlers_ = {
       {"VisitOurWebSiteMenu", [this] { _VisitOurWebSiteMenu_Action(); }},
-      {"AppleAbout", nothing_yet},
+      {"AppleAbout", [this] { ShowAboutWindow(program_.Context()); }},
       {"EditPreferences", nothing_yet},
       {"SpeechSpeakButtonMenu", [this] { program_.GetCalcWindow().SpeakButtonsClicked(); }},
       {"SpeechAcceptVoiceCommandsMenu",
@@ -29,7 +31,7 @@ TessarineApp::TessarineApp(Program& program)
       {"FileTapeControlMenu", [this] { _FileTapeControlMenu_Action(); }},
       {"FileSaveTape", [this] { _FileSaveTape_Action(); }},
       {"MenuCustomize", nothing_yet},
-      {"DonateMenu", nothing_yet},
+      {"DonateMenu", [this] { program_.GetPlatform().desktop.ShowURL(DonateMenuAddress()); }},
       {"CheckForUpdatesMenu", nothing_yet},
       {"FilePageSetup", [this] { _FilePageSetup_Action(); }},
       {"FilePrintTape", [this] { _FilePrintTape_Action(); }},

@@ -26,6 +26,7 @@ int main(int argc, char** argv) {
       {"fractions", tessarine::desktop::testing::RunFractionsTests},
       {"expression", tessarine::desktop::testing::RunExpressionTests},
       {"http", tessarine::desktop::testing::RunHttpTests},
+      {"help", tessarine::desktop::testing::RunHelpTests},
   };
   if (argc < 2 || !suites.count(argv[1])) {
     std::string names;

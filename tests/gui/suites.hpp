@@ -15,5 +15,6 @@ int RunStatisticsTests(int argc, char** argv);
 int RunFractionsTests(int argc, char** argv);
 int RunExpressionTests(int argc, char** argv);
 int RunHttpTests(int argc, char** argv);
+int RunHelpTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing
