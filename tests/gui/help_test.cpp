@@ -6,8 +6,8 @@
 #include <QTest>
 
 #include "gui_fixture.hpp"
-#include "menu_bar_view.hpp"
 #include "picture_canvas.hpp"
+#include "shell/tessarine_app.hpp"
 #include "suites.hpp"
 #include "window_canvas.hpp"
 #include "window_dialog.hpp"
@@ -35,18 +35,19 @@ class HelpTest : public GuiSuite {
     QVERIFY(key);
     QCOMPARE(key->toolTip(), plus);
     QCOMPARE(key->accessibleDescription(), plus);
-    QWidget* degrees = f_->Widget("UnitsRadio", 1);
-    QVERIFY(degrees);
-    QVERIFY(degrees->toolTip().startsWith(QStringLiteral("Degrees. ")));
+    QWidget* seven = f_->Widget("Button7");
+    QVERIFY(seven);
+    QVERIFY(seven->toolTip().startsWith(QStringLiteral("Keyboard equivalent: [7]. ")));
     // Switched off, every tip goes.
     f_->Calc().HelpTagsEnabled(false);
     QVERIFY(key->toolTip().isEmpty());
     QVERIFY(key->accessibleDescription().isEmpty());
-    QVERIFY(degrees->toolTip().isEmpty());
+    QVERIFY(seven->toolTip().isEmpty());
   }
 
   void aboutBoxShowsVersionPicturesAndCompilerLine() {
-    f_->View().Menus().ActionFor("AppleAbout")->trigger();
+    // As the Help menu's item does once the menu has enabled it.
+    QVERIFY(f_->App().GetProgram().App().MenuCommand("AppleAbout"));
     WindowDialog* about = f_->App().DialogFor("AboutWindow");
     QVERIFY(about);
     QCOMPARE(about->windowTitle(), QStringLiteral("About Tessarine"));
