@@ -216,6 +216,8 @@ class CalcWindow final : public Window {
 
   // --- Start-up -----------------------------------------------------------
   void StartupMessageTimer_Action();
+  // Shows the donation reminder over this window; the shell supplies it.
+  std::function<void()> ShowDonationReminder;
 
   // Help tags on every control (help_tags.cpp).
   void HelpTagsEnabled(bool enabled);

@@ -140,6 +140,11 @@ void CalcWindow::StartupMessageTimer_Action() {
   HelpTagsEnabled(globals_.ShowHelpTags);
   UpdateDisplay();
   globals_.NumberOfLaunches = ToInt(ReadPref(prefs, prefs::NumberOfLaunchesVal));
+  // The reminder comes at launches 50, 100, 150 ..., before the count moves on.
+  const double fiftieths = globals_.NumberOfLaunches / 50.0;
+  if (ReadPref(prefs, prefs::ShowDonationReminder) && fiftieths == Floor(fiftieths) &&
+      ShowDonationReminder)
+    ShowDonationReminder();
   globals_.NumberOfLaunches += 1;  // in memory only; the close saves it
   for (const auto& part : parts_) part->Started(t);
 }

@@ -48,6 +48,7 @@ namespace tessarine {
   X(String, SavedDisplayValue, "0")               \
   X(String, SavedExpValue, "")                    \
   X(Number, NumberOfLaunchesVal, 1)               \
+  X(Boolean, ShowDonationReminder, true)          \
   X(Number, NumberOfConstants, -1)                \
   X(Boolean, UpdateExchangeRates, false)          \
   X(Boolean, CheckForUpdates, false)              \

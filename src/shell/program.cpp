@@ -4,6 +4,8 @@
 #include "calculator/progress_bar_window.hpp"
 #include "calculator/tape_window.hpp"
 #include "conversion/currency_error_window.hpp"
+#include "shell/about_window.hpp"
+#include "shell/donation_request_window.hpp"
 #include "shell/main_window_parts.hpp"
 #include "shell/preferences_window.hpp"
 #include "shell/restore_defaults_windows.hpp"
@@ -27,6 +29,7 @@ void Program::RegisterWindows() {
   windows_.Register(CalcWindow::kName, [this] {
     auto window = std::make_unique<CalcWindow>(context_);
     AddMainWindowParts(*window, context_);
+    window->ShowDonationReminder = [this] { ShowDonationRequestWindow(context_); };
     return window;
   });
   windows_.Register(TapeWindow::kName, [this] { return std::make_unique<TapeWindow>(context_); });
@@ -34,6 +37,9 @@ void Program::RegisterWindows() {
                     [this] { return std::make_unique<ProgressBarWindow>(platform_); });
   windows_.Register(CurrencyErrorWindow::kName,
                     [this] { return std::make_unique<CurrencyErrorWindow>(platform_); });
+  windows_.Register(AboutWindow::kName, [this] { return std::make_unique<AboutWindow>(context_); });
+  windows_.Register(DonationRequestWindow::kName,
+                    [this] { return std::make_unique<DonationRequestWindow>(context_); });
   statistics::RegisterStatsWindows(context_);
   windows_.Register(PreferencesWindow::kName,
                     [this] { return std::make_unique<PreferencesWindow>(context_); });

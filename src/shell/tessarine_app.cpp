@@ -7,6 +7,8 @@
 #include "runtime/text.hpp"
 #include "settings/deployment.hpp"
 #include "settings/preference_keys.hpp"
+#include "shell/about_window.hpp"
+#include "shell/donation_links.hpp"
 #include "shell/main_menu.hpp"
 #include "shell/preferences_window.hpp"
 #include "shell/program.hpp"
@@ -16,12 +18,12 @@ namespace tessarine {
 TessarineApp::TessarineApp(Program& program)
     : program_(program), menu_bar_(program.Context().menu_bar) {
   BuildMainMenu(menu_bar_);
-  // FORWARD CALL: the items whose windows are not built yet (about, donation, the
-  // update check) have their place here and do nothing.
+  // FORWARD CALL: the items whose windows are not built yet (the update check)
+  // have their place here and do nothing.
   const auto nothing_yet = [] {};
   handlers_ = {
       {"VisitOurWebSiteMenu", [this] { _VisitOurWebSiteMenu_Action(); }},
-      {"AppleAbout", nothing_yet},
+      {"AppleAbout", [this] { ShowAboutWindow(program_.Context()); }},
       {"EditPreferences",
        [this] { ShowPreferences(program_.Context(), PreferencesWindow::kGeneral); }},
       {"SpeechSpeakButtonMenu", [this] { program_.GetCalcWindow().SpeakButtonsClicked(); }},
@@ -32,7 +34,7 @@ TessarineApp::TessarineApp(Program& program)
       {"FileSaveTape", [this] { _FileSaveTape_Action(); }},
       {"MenuCustomize",
        [this] { ShowPreferences(program_.Context(), PreferencesWindow::kConstants); }},
-      {"DonateMenu", nothing_yet},
+      {"DonateMenu", [this] { program_.GetPlatform().desktop.ShowURL(DonateMenuAddress()); }},
       {"CheckForUpdatesMenu", nothing_yet},
       {"FilePageSetup", [this] { _FilePageSetup_Action(); }},
       {"FilePrintTape", [this] { _FilePrintTape_Action(); }},

@@ -27,6 +27,7 @@ int main(int argc, char** argv) {
       {"expression", tessarine::desktop::testing::RunExpressionTests},
       {"http", tessarine::desktop::testing::RunHttpTests},
       {"preferences", tessarine::desktop::testing::RunPreferencesTests},
+      {"help", tessarine::desktop::testing::RunHelpTests},
   };
   if (argc < 2 || !suites.count(argv[1])) {
     std::string names;

@@ -16,5 +16,6 @@ int RunFractionsTests(int argc, char** argv);
 int RunExpressionTests(int argc, char** argv);
 int RunHttpTests(int argc, char** argv);
 int RunPreferencesTests(int argc, char** argv);
+int RunHelpTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing
