@@ -358,528 +358,243 @@ QWidget* WindowCanvas::Make(Control& control) {
       break;
     }
     case ControlKind::RoundRectangle:
+      widget = new ShapeWidget(ShapeWidget::Shape::RoundRectangle, &canvas_);
+      break;
     case ControlKind::Rectangle:
+      widget = new ShapeWidget(ShapeWidget::Shape::Rectangle, &canvas_);
+      break;
     case ControlKind::Separator:
-      return true;
-    default:
-      return false;
-  }
-}
-
-// Mouse events of a widget, forwarded to its control's MouseDown, MouseUp,
-// MouseMove and MouseExit. The widget still gets them.
-class MouseForwarder final : public QObject {
- public:
-  MouseForwarder(Control& control, QObject* parent) : QObject(parent), control_(control) {}
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::MouseButtonPress: {
-        const QPoint p = static_cast<QMouseEvent*>(event)->position().toPoint();
-        Track(p);
-        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
-          control_.UserMouseDown(p.x(), p.y());
-        break;
-      }
-      case QEvent::MouseButtonRelease: {
-        const QPoint p = static_cast<QMouseEvent*>(event)->position().toPoint();
-        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
-          control_.UserMouseUp(p.x(), p.y());
-        break;
-      }
-      case QEvent::MouseMove: {
-        const QPoint p = static_cast<QMouseEvent*>(event)->position().toPoint();
-        Track(p);
-        control_.UserMouseMove(p.x(), p.y());
-        break;
-      }
-      case QEvent::Leave:
-        control_.UserMouseExit();
-        break;
-      default:
-        break;
-    }
-    return false;
-  }
-
- private:
-  // The window's pointer position, which the logic reads (the memory list opens
-  // at the pointer).
-  void Track(const QPoint& p) {
-    control_.Owner().SetMousePosition(control_.Left() + p.x(), control_.Top() + p.y());
-  }
-
-  Control& control_;
-};
-
-// Keys typed into a text field go to its control's KeyDown first, which may swallow
-// them; a key with no text (an arrow, a modifier) is no character and passes.
-class KeyForwarder final : public QObject {
- public:
-  KeyForwarder(Control& control, QObject* parent) : QObject(parent), control_(control) {}
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress) return false;
-    const QString text = static_cast<QKeyEvent*>(event)->text();
-    return !text.isEmpty() && control_.UserKeyDown(text.toStdString());
-  }
-
- private:
-  Control& control_;
-};
-
-}  // namespace tessarine::desktop
-
-WindowCanvas::WindowCanvas(Window& window, QWidget& canvas)
-    : QObject(&canvas), window_(window), canvas_(canvas) {
-  for (const auto& control : window_.Controls()) {
-    index_[control.get()] = bound_.size();
-    bound_.push_back(Bound{control.get(), nullptr});
-  }
-  tab_panel_ = FirstOfKind(ControlKind::TabPanel);
-  page_panel_ = FirstOfKind(ControlKind::PagePanel);
-  QPointer<WindowCanvas> self(this);
-  window_.Observe([self](Control* control, Property property) {
-    if (self) self->OnChanged(control, property);
-  });
-}
-
-const Control* WindowCanvas::FirstOfKind(ControlKind kind) const {
-  for (const Bound& bound : bound_)
-    if (bound.control->Kind() == kind) return bound.control;
-  return nullptr;
-}
-
-Control* WindowCanvas::ParentOf(const Control& control) const {
-  return control.Parent().empty() ? nullptr : window_.FindControl(control.Parent());
-}
-
-bool WindowCanvas::Shows(const Control& control) const {
-  if (!control.Visible()) return false;
-  if (control.TabPage() > 0 && tab_panel_ && tab_panel_->Value() + 1 != control.TabPage())
-    return false;
-  if (control.PanelPage() > 0 && page_panel_ && page_panel_->Value() + 1 != control.PanelPage())
-    return false;
-  const Control* parent = ParentOf(control);
-  return !parent || parent == &control || Shows(*parent);
-}
-
-QWidget* WindowCanvas::WidgetFor(const Control& control) const {
-  const auto it = index_.find(&control);
-  return it == index_.end() ? nullptr : bound_[it->second].widget.data();
-}
-
-std::size_t WindowCanvas::BuiltCount() const {
-  std::size_t count = 0;
-  for (const Bound& bound : bound_) count += bound.widget ? 1 : 0;
-  return count;
-}
-
-void WindowCanvas::SetViewport(const QRect& viewport) {
-  viewport_ = viewport;
-  SyncVisibility();
-}
-
-void WindowCanvas::SyncVisibility() {
-  bool made = false;
-  for (Bound& bound : bound_) {
-    const Control& control = *bound.control;
-    const bool shows = Shows(control);
-    if (!bound.widget) {
-      const QRect rect(control.Left(), control.Top(), control.Width(), control.Height());
-      if (!shows || !viewport_.intersects(rect)) continue;
-      bound.widget = Make(*bound.control);
-      ApplyAll(bound);
-      made = true;
-    }
-    bound.widget->setVisible(shows);
-  }
-  if (made) Restack();
-}
-
-void WindowCanvas::Restack() {
-  // Backdrops first, in the design's order (a group box above its tab panel), then
-  // everything else in that order.
-  for (const bool backdrop : {true, false})
-    for (const Bound& bound : bound_)
-      if (bound.widget && IsBackdrop(bound.control->Kind()) == backdrop) bound.widget->raise();
-}
-
-QWidget* WindowCanvas::Make(Control& control) {
-  QWidget* widget = nullptr;
-  Control* c = &control;
-  switch (control.Kind()) {
-    case ControlKind::Label: {
-      auto* label = new QLabel(&canvas_);
-      label->setTextFormat(Qt::PlainText);
-      label->setMouseTracking(true);
-      // A label taller than a line, as a sheet's message, wraps its words.
-      label->setWordWrap(control.Height() > 30);
-      widget = label;
+      widget = new ShapeWidget(ShapeWidget::Shape::Separator, &canvas_);
       break;
-    }
-    case ControlKind::BevelButton:
-    case ControlKind::CalcBevelButton: {
-      auto* key = new KeyButton(&canvas_);
-      connect(key, &QAbstractButton::clicked, this, [c] { c->Click(); });
-      widget = key;
+    case ControlKind::ProgressBar: {
+      auto* bar = new QProgressBar(&canvas_);
+      bar->setTextVisible(false);
+      widget = bar;
       break;
-    }
-    case ControlKind::PushButton: {
-      auto* button = new QPushButton(&canvas_);
-      button->setFocusPolicy(Qt::NoFocus);
-      button->setAutoDefault(false);
-      connect(button, &QAbstractButton::clicked, this, [c] { c->Click(); });
-      widget = button;
-      break;
-    }
-    case ControlKind::RadioButton:
-    case ControlKind::CheckBox: {
-      QAbstractButton* button = control.Kind() == ControlKind::RadioButton
-                                    ? static_cast<QAbstractButton*>(new QRadioButton(&canvas_))
-                                    : new QCheckBox(&canvas_);
-      button->setFocusPolicy(Qt::NoFocus);
-      button->setAutoExclusive(false);  // the model clears the others of its group
-      connect(button, &QAbstractButton::clicked, this, [this, c, button] {
-        c->Click();
-        // Whatever Qt toggled, the model's value is what shows.
-        const QSignalBlocker block(button);
-        button->setChecked(c->Value() != 0);
-      });
-      widget = button;
-      break;
-    }
-    case ControlKind::PopupMenu: {
-      auto* combo = new QComboBox(&canvas_);
-      combo->setFocusPolicy(Qt::NoFocus);
-      connect(combo, &QComboBox::activated, this, [this, c](int index) {
-        if (!applying_) c->UserSetListIndex(index);
-      });
-      widget = combo;
-      break;
-    }
-    case ControlKind::Listbox: {
-      auto* list = new QListWidget(&canvas_);
-      list->setFocusPolicy(Qt::NoFocus);
-      connect(list, &QListWidget::currentRowChanged, this, [this, c](int row) {
-        if (!applying_) c->UserSetListIndex(row);
-      });
-      // A press on a row is a click on that cell; the pointer over the rows is
-      // followed, as the list's own logic highlights by position.
-      connect(list, &QAbstractItemView::pressed, this, [c, list](const QModelIndex& index) {
-        const QPoint p = list->viewport()->mapFromGlobal(QCursor::pos());
-        c->UserCellClick(index.row(), 0, p.x(), p.y());
-      });
-      list->viewport()->setMouseTracking(true);
-      list->viewport()->installEventFilter(new MouseForwarder(control, list->viewport()));
-      widget = list;
-      break;
-    }
-    case ControlKind::TextField:
-    case ControlKind::NumberOnlyEditField: {
-      auto* edit = new QLineEdit(&canvas_);
-      edit->setFocusPolicy(Qt::ClickFocus);  // a field takes the keys only when clicked
-      if (control.Name() == "PasswordEditField") edit->setEchoMode(QLineEdit::Password);
-      connect(edit, &QLineEdit::textEdited, this,
-              [this, c, edit](const QString& text) { UserEdited(*c, edit, text.toStdString()); });
-      connect(edit, &QLineEdit::cursorPositionChanged, this,
-              [this, c, edit] { UserMovedCaret(*c, edit); });
-      connect(edit, &QLineEdit::selectionChanged, this,
-              [this, c, edit] { UserMovedCaret(*c, edit); });
-      edit->installEventFilter(new KeyForwarder(control, edit));
-      widget = edit;
-      break;
-    }
-    case ControlKind::TextArea: {
-      auto* edit = new QPlainTextEdit(&canvas_);
-      edit->setFocusPolicy(Qt::ClickFocus);
-      connect(edit, &QPlainTextEdit::textChanged, this, [this, c, edit] {
-        if (!applying_) UserEdited(*c, edit, FromScreen(edit->toPlainText()));
-      });
-      connect(edit, &QPlainTextEdit::cursorPositionChanged, this,
-              [this, c, edit] { UserMovedCaret(*c, edit); });
-      connect(edit, &QPlainTextEdit::selectionChanged, this,
-              [this, c, edit] { UserMovedCaret(*c, edit); });
-      // The clicks land on the area's viewport, not on the area.
-      edit->viewport()->installEventFilter(new MouseForwarder(control, edit->viewport()));
-      widget = edit;
-      break;
-    }
-    case ControlKind::GroupBox: {
-      auto* box = new QGroupBox(&canvas_);
-      box->setAttribute(Qt::WA_TransparentForMouseEvents);
-      widget = box;
-      break;
-    }
-    case ControlKind::TabPanel: {
-      auto* panel = new TabPanelWidget(&canvas_);
-      connect(panel, &TabPanelWidget::userChangedPage, this,
-              [c](int index) { c->SetValue(index); });
-      widget = panel;
-      break;
-    }
-    case ControlKind::PagePanel:
-    case ControlKind::Canvas: {
-      if (control.Kind() == ControlKind::Canvas && (widget = MakePictureCanvas(control, &canvas_)))
-        break;
-      if (Left(control.Name(), 11) == "CautionIcon") {
-        // The caution icon the program draws on its alerts: the desktop theme's.
-        auto* icon = new QLabel(&canvas_);
-        const int side = std::min(control.Width(), control.Height());
-        icon->setPixmap(QApplication::style()
-                            ->standardIcon(QStyle::SP_MessageBoxWarning)
-                            .pixmap(QSize(side, side), icon->devicePixelRatioF()));
-        icon->setAlignment(Qt::AlignCenter);
-        widget = icon;
-        break;
-      }
-      widget = new QWidget(&canvas_);
-      widget->setAttribute(Qt::WA_TransparentForMouseEvents);
-      break;
-      case ControlKind::Canvas:
-        widget = new PictureCanvas(&canvas_);
-        break;
-      case ControlKind::RoundRectangle:
-        widget = new ShapeWidget(ShapeWidget::Shape::RoundRectangle, &canvas_);
-        break;
-      case ControlKind::Rectangle:
-        widget = new ShapeWidget(ShapeWidget::Shape::Rectangle, &canvas_);
-        break;
-      case ControlKind::Separator:
-        widget = new ShapeWidget(ShapeWidget::Shape::Separator, &canvas_);
-        break;
-      case ControlKind::ProgressBar: {
-        auto* bar = new QProgressBar(&canvas_);
-        bar->setTextVisible(false);
-        widget = bar;
-        break;
-      }
-    }
-      widget->setObjectName(Q(control.FullName()));
-      widget->installEventFilter(new MouseForwarder(control, widget));
-      if (control.events.DropObject) AcceptFileDrops(*widget, control);
-      return widget;
-  }
-
-  void WindowCanvas::UserEdited(Control & control, QWidget * widget, std::string text) {
-    // The widget's caret is already where the edit left it; the model's selection
-    // follows once its text has, and the model's clamping of the old selection to the
-    // new text must not move the caret meanwhile.
-    user_editing_ = true;
-    control.UserSetText(std::move(text));
-    user_editing_ = false;
-    if (!widget) return;
-    if (CurrentText(widget) == ToScreen(control.Text())) {
-      const auto [start, length] = ReadSelection(widget, control);
-      control.UserSetSelection(start, length);
-    } else {
-      // A handler rewrote the text: the model's selection is what shows.
-      applying_ = true;
-      ShowSelection(widget, control);
-      applying_ = false;
     }
   }
+  widget->setObjectName(Q(control.FullName()));
+  widget->installEventFilter(new MouseForwarder(control, widget));
+  if (control.events.DropObject) AcceptFileDrops(*widget, control);
+  return widget;
+}
 
-  void WindowCanvas::UserMovedCaret(Control & control, QWidget * widget) {
-    if (applying_ || user_editing_) return;
-    if (CurrentText(widget) != ToScreen(control.Text())) return;  // the text follows first
+void WindowCanvas::UserEdited(Control& control, QWidget* widget, std::string text) {
+  // The widget's caret is already where the edit left it; the model's selection
+  // follows once its text has, and the model's clamping of the old selection to the
+  // new text must not move the caret meanwhile.
+  user_editing_ = true;
+  control.UserSetText(std::move(text));
+  user_editing_ = false;
+  if (!widget) return;
+  if (CurrentText(widget) == ToScreen(control.Text())) {
     const auto [start, length] = ReadSelection(widget, control);
     control.UserSetSelection(start, length);
-  }
-
-  void WindowCanvas::ApplyAll(const Bound& bound) {
+  } else {
+    // A handler rewrote the text: the model's selection is what shows.
     applying_ = true;
-    ApplyRows(bound);
-    ApplyListIndex(bound);
-    ApplyText(bound);
-    ApplyValue(bound);
-    ShowSelection(bound.widget, *bound.control);
-    ApplyLook(bound);
-    Apply(bound, Property::Enabled);
-    Apply(bound, Property::HelpTag);
-    Apply(bound, Property::Maximum);
-    Apply(bound, Property::Bounds);
+    ShowSelection(widget, control);
     applying_ = false;
   }
+}
 
-  void WindowCanvas::OnChanged(Control * control, Property property) {
-    if (!control) {
-      if (property == Property::Bounds && on_window_bounds) on_window_bounds();
-      return;
+void WindowCanvas::UserMovedCaret(Control& control, QWidget* widget) {
+  if (applying_ || user_editing_) return;
+  if (CurrentText(widget) != ToScreen(control.Text())) return;  // the text follows first
+  const auto [start, length] = ReadSelection(widget, control);
+  control.UserSetSelection(start, length);
+}
+
+void WindowCanvas::ApplyAll(const Bound& bound) {
+  applying_ = true;
+  ApplyRows(bound);
+  ApplyListIndex(bound);
+  ApplyText(bound);
+  ApplyValue(bound);
+  ShowSelection(bound.widget, *bound.control);
+  ApplyLook(bound);
+  Apply(bound, Property::Enabled);
+  Apply(bound, Property::HelpTag);
+  Apply(bound, Property::Maximum);
+  Apply(bound, Property::Bounds);
+  applying_ = false;
+}
+
+void WindowCanvas::OnChanged(Control* control, Property property) {
+  if (!control) {
+    if (property == Property::Bounds && on_window_bounds) on_window_bounds();
+    return;
+  }
+  const auto it = index_.find(control);
+  if (it == index_.end()) return;
+  const Bound& bound = bound_[it->second];
+  const ControlKind kind = control->Kind();
+  const bool panel_page = property == Property::Value &&
+                          (kind == ControlKind::TabPanel || kind == ControlKind::PagePanel);
+  if (bound.widget) {
+    applying_ = true;
+    Apply(bound, property);
+    applying_ = false;
+  }
+  if (panel_page || property == Property::Visible || property == Property::Bounds) SyncVisibility();
+  if (panel_page && kind == ControlKind::TabPanel && on_page_change) on_page_change();
+}
+
+void WindowCanvas::Apply(const Bound& bound, Property property) {
+  const Control& control = *bound.control;
+  QWidget* widget = bound.widget;
+  switch (property) {
+    case Property::Text:
+      ApplyText(bound);
+      break;
+    case Property::Value:
+      ApplyValue(bound);
+      break;
+    case Property::Rows:
+      ApplyRows(bound);
+      break;
+    case Property::ListIndex:
+      ApplyListIndex(bound);
+      break;
+    case Property::Enabled:
+      widget->setEnabled(control.Enabled());
+      break;
+    case Property::Visible:
+      break;  // SyncVisibility
+    case Property::HelpTag:
+      // The tag is the tip and, for those who can't see it, the description.
+      widget->setToolTip(Q(control.HelpTag()));
+      widget->setAccessibleDescription(Q(control.HelpTag()));
+      break;
+    case Property::TextColor:
+    case Property::TextSize:
+      ApplyLook(bound);
+      break;
+    case Property::Bounds:
+      widget->setGeometry(control.Left(), control.Top(), control.Width(), control.Height());
+      break;
+    case Property::Maximum:
+      if (auto* bar = qobject_cast<QProgressBar*>(widget)) bar->setMaximum(control.Maximum());
+      break;
+    case Property::Selection:
+      if (!user_editing_) ShowSelection(widget, control);
+      break;
+  }
+  // A canvas paints from its control's state (a toolbar button's caption and selection).
+  if (control.Kind() == ControlKind::Canvas) widget->update();
+}
+
+void WindowCanvas::ApplyText(const Bound& bound) {
+  const Control& control = *bound.control;
+  QWidget* widget = bound.widget;
+  const QString name = Q(control.Name());
+  if (auto* key = qobject_cast<KeyButton*>(widget)) {
+    const QString caption = Q(control.Text());
+    key->SetRuns(KeyCaptionRuns(name, caption));
+    key->setAccessibleName(AccessibleKeyName(name, caption));
+  } else if (auto* label = qobject_cast<QLabel*>(widget)) {
+    label->setText(ToScreen(control.Text()));
+    label->setAccessibleName(name);
+  } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+    const QString text = Q(control.Text());
+    if (edit->text() != text) {
+      edit->setText(text);
+      ShowSelection(edit, control);  // setText put the caret at the end
     }
-    const auto it = index_.find(control);
-    if (it == index_.end()) return;
-    const Bound& bound = bound_[it->second];
-    const ControlKind kind = control->Kind();
-    const bool panel_page = property == Property::Value &&
-                            (kind == ControlKind::TabPanel || kind == ControlKind::PagePanel);
-    if (bound.widget) {
+    edit->setAccessibleName(name);
+  } else if (auto* area = qobject_cast<QPlainTextEdit*>(widget)) {
+    const QString text = ToScreen(control.Text());
+    if (area->toPlainText() != text) {
+      const bool was = applying_;
       applying_ = true;
-      Apply(bound, property);
-      applying_ = false;
+      area->setPlainText(text);
+      ShowSelection(area, control);  // setPlainText put the caret at the start
+      applying_ = was;
     }
-    if (panel_page || property == Property::Visible || property == Property::Bounds)
-      SyncVisibility();
-    if (panel_page && kind == ControlKind::TabPanel && on_page_change) on_page_change();
+    area->setAccessibleName(name);
+  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+    button->setText(Caption(control.Text()));
+    button->setAccessibleName(control.Text().empty() ? name : Q(control.Text()));
+  } else if (auto* picture = qobject_cast<PictureCanvas*>(widget)) {
+    picture->SetPictureName(Q(control.Text()));
+    picture->setAccessibleName(name);
+  } else if (auto* box = qobject_cast<QGroupBox*>(widget)) {
+    box->setTitle(Caption(control.Text()));
+    box->setAccessibleName(control.Text().empty() ? name : Q(control.Text()));
+  } else {
+    widget->setAccessibleName(name);
   }
+}
 
-  void WindowCanvas::Apply(const Bound& bound, Property property) {
-    const Control& control = *bound.control;
-    QWidget* widget = bound.widget;
-    switch (property) {
-      case Property::Text:
-        ApplyText(bound);
-        break;
-      case Property::Value:
-        ApplyValue(bound);
-        break;
-      case Property::Rows:
-        ApplyRows(bound);
-        break;
-      case Property::ListIndex:
-        ApplyListIndex(bound);
-        break;
-      case Property::Enabled:
-        widget->setEnabled(control.Enabled());
-        break;
-      case Property::Visible:
-        break;  // SyncVisibility
-      case Property::HelpTag:
-        // The tag is the tip and, for those who can't see it, the description.
-        widget->setToolTip(Q(control.HelpTag()));
-        widget->setAccessibleDescription(Q(control.HelpTag()));
-        break;
-      case Property::TextColor:
-      case Property::TextSize:
-        ApplyLook(bound);
-        break;
-      case Property::Bounds:
-        widget->setGeometry(control.Left(), control.Top(), control.Width(), control.Height());
-        break;
-      case Property::Maximum:
-        if (auto* bar = qobject_cast<QProgressBar*>(widget)) bar->setMaximum(control.Maximum());
-        break;
-      case Property::Selection:
-        if (!user_editing_) ShowSelection(widget, control);
-        break;
-    }
-    // A canvas paints from its control's state (a toolbar button's caption and selection).
-    if (control.Kind() == ControlKind::Canvas) widget->update();
+void WindowCanvas::ApplyValue(const Bound& bound) {
+  const Control& control = *bound.control;
+  QWidget* widget = bound.widget;
+  if (auto* key = qobject_cast<KeyButton*>(widget)) {
+    key->SetShownDown(control.IsDown());
+  } else if (auto* push = qobject_cast<QPushButton*>(widget)) {
+    push->setDown(control.IsDown());
+  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+    const QSignalBlocker block(button);
+    button->setChecked(control.Value() != 0);
+  } else if (auto* panel = qobject_cast<TabPanelWidget*>(widget)) {
+    panel->SetCurrentPage(control.Value());
+  } else if (auto* bar = qobject_cast<QProgressBar*>(widget)) {
+    bar->setValue(control.Value());
   }
+}
 
-  void WindowCanvas::ApplyText(const Bound& bound) {
-    const Control& control = *bound.control;
-    QWidget* widget = bound.widget;
-    const QString name = Q(control.Name());
-    if (auto* key = qobject_cast<KeyButton*>(widget)) {
-      const QString caption = Q(control.Text());
-      key->SetRuns(KeyCaptionRuns(name, caption));
-      key->setAccessibleName(AccessibleKeyName(name, caption));
-    } else if (auto* label = qobject_cast<QLabel*>(widget)) {
-      label->setText(ToScreen(control.Text()));
-      label->setAccessibleName(name);
-    } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-      const QString text = Q(control.Text());
-      if (edit->text() != text) {
-        edit->setText(text);
-        ShowSelection(edit, control);  // setText put the caret at the end
-      }
-      edit->setAccessibleName(name);
-    } else if (auto* area = qobject_cast<QPlainTextEdit*>(widget)) {
-      const QString text = ToScreen(control.Text());
-      if (area->toPlainText() != text) {
-        const bool was = applying_;
-        applying_ = true;
-        area->setPlainText(text);
-        ShowSelection(area, control);  // setPlainText put the caret at the start
-        applying_ = was;
-      }
-      area->setAccessibleName(name);
-    } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-      button->setText(Caption(control.Text()));
-      button->setAccessibleName(control.Text().empty() ? name : Q(control.Text()));
-    } else if (auto* picture = qobject_cast<PictureCanvas*>(widget)) {
-      picture->SetPictureName(Q(control.Text()));
-      picture->setAccessibleName(name);
-    } else if (auto* box = qobject_cast<QGroupBox*>(widget)) {
-      box->setTitle(Caption(control.Text()));
-      box->setAccessibleName(control.Text().empty() ? name : Q(control.Text()));
-    } else {
-      widget->setAccessibleName(name);
-    }
+void WindowCanvas::ApplyRows(const Bound& bound) {
+  const Control& control = *bound.control;
+  QStringList rows;
+  for (const std::string& row : control.Rows()) rows << Q(row);
+  if (auto* combo = qobject_cast<QComboBox*>(bound.widget)) {
+    const QSignalBlocker block(combo);
+    combo->clear();
+    combo->addItems(rows);
+    combo->setCurrentIndex(control.ListIndex());
+  } else if (auto* list = qobject_cast<QListWidget*>(bound.widget)) {
+    const QSignalBlocker block(list);
+    list->clear();
+    list->addItems(rows);
+    list->setCurrentRow(control.ListIndex());
+  } else if (auto* panel = qobject_cast<TabPanelWidget*>(bound.widget)) {
+    panel->SetTabs(rows);
+    panel->SetCurrentPage(control.Value());
   }
+}
 
-  void WindowCanvas::ApplyValue(const Bound& bound) {
-    const Control& control = *bound.control;
-    QWidget* widget = bound.widget;
-    if (auto* key = qobject_cast<KeyButton*>(widget)) {
-      key->SetShownDown(control.IsDown());
-    } else if (auto* push = qobject_cast<QPushButton*>(widget)) {
-      push->setDown(control.IsDown());
-    } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-      const QSignalBlocker block(button);
-      button->setChecked(control.Value() != 0);
-    } else if (auto* panel = qobject_cast<TabPanelWidget*>(widget)) {
-      panel->SetCurrentPage(control.Value());
-    } else if (auto* bar = qobject_cast<QProgressBar*>(widget)) {
-      bar->setValue(control.Value());
-    }
+void WindowCanvas::ApplyListIndex(const Bound& bound) {
+  const int index = bound.control->ListIndex();
+  if (auto* combo = qobject_cast<QComboBox*>(bound.widget)) {
+    const QSignalBlocker block(combo);
+    combo->setCurrentIndex(index);
+  } else if (auto* list = qobject_cast<QListWidget*>(bound.widget)) {
+    const QSignalBlocker block(list);
+    list->setCurrentRow(index);
   }
+}
 
-  void WindowCanvas::ApplyRows(const Bound& bound) {
-    const Control& control = *bound.control;
-    QStringList rows;
-    for (const std::string& row : control.Rows()) rows << Q(row);
-    if (auto* combo = qobject_cast<QComboBox*>(bound.widget)) {
-      const QSignalBlocker block(combo);
-      combo->clear();
-      combo->addItems(rows);
-      combo->setCurrentIndex(control.ListIndex());
-    } else if (auto* list = qobject_cast<QListWidget*>(bound.widget)) {
-      const QSignalBlocker block(list);
-      list->clear();
-      list->addItems(rows);
-      list->setCurrentRow(control.ListIndex());
-    } else if (auto* panel = qobject_cast<TabPanelWidget*>(bound.widget)) {
-      panel->SetTabs(rows);
-      panel->SetCurrentPage(control.Value());
-    }
-  }
+void WindowCanvas::ApplyLook(const Bound& bound) {
+  const Control& control = *bound.control;
+  QWidget* widget = bound.widget;
+  const ControlLook look = LookFor(control);
+  const QFont font = FontFor(control, QApplication::font());
+  if (auto* panel = qobject_cast<TabPanelWidget*>(widget))
+    panel->SetBarFont(font);
+  else
+    widget->setFont(font);
+  if (auto* label = qobject_cast<QLabel*>(widget)) label->setAlignment(look.alignment);
+  if (auto* key = qobject_cast<KeyButton*>(widget)) key->SetFaceColor(look.background);
 
-  void WindowCanvas::ApplyListIndex(const Bound& bound) {
-    const int index = bound.control->ListIndex();
-    if (auto* combo = qobject_cast<QComboBox*>(bound.widget)) {
-      const QSignalBlocker block(combo);
-      combo->setCurrentIndex(index);
-    } else if (auto* list = qobject_cast<QListWidget*>(bound.widget)) {
-      const QSignalBlocker block(list);
-      list->setCurrentRow(index);
-    }
-  }
-
-  void WindowCanvas::ApplyLook(const Bound& bound) {
-    const Control& control = *bound.control;
-    QWidget* widget = bound.widget;
-    const ControlLook look = LookFor(control);
-    const QFont font = FontFor(control, QApplication::font());
-    if (auto* panel = qobject_cast<TabPanelWidget*>(widget))
-      panel->SetBarFont(font);
-    else
-      widget->setFont(font);
-    if (auto* label = qobject_cast<QLabel*>(widget)) label->setAlignment(look.alignment);
-    if (auto* key = qobject_cast<KeyButton*>(widget)) key->SetFaceColor(look.background);
-
-    // The text colour for the active and inactive window; a disabled control keeps
-    // the style's grey.
-    const QColor color = QColor::fromRgb(control.TextColor());
-    QPalette palette = widget->palette();
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
-      for (const QPalette::ColorRole role :
-           {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
-        palette.setColor(group, role, color);
-    widget->setPalette(palette);
-  }
+  // The text colour for the active and inactive window; a disabled control keeps
+  // the style's grey.
+  const QColor color = QColor::fromRgb(control.TextColor());
+  QPalette palette = widget->palette();
+  for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+      palette.setColor(group, role, color);
+  widget->setPalette(palette);
+}
 
 }  // namespace tessarine::desktop
