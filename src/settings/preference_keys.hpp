@@ -47,7 +47,14 @@ namespace tessarine {
   X(Number, TapeHeight, 250)                     \
   X(String, SavedDisplayValue, "0")              \
   X(String, SavedExpValue, "")                   \
-  X(Number, NumberOfLaunchesVal, 1)
+  X(Number, NumberOfLaunchesVal, 1)              \
+  X(Boolean, UpdateExchangeRates, true)          \
+  X(Boolean, CheckForUpdates, false)             \
+  X(Boolean, UseProxyServer, false)              \
+  X(String, ProxyServerName, "proxy.example")    \
+  X(String, ProxyServerPort, "8080")             \
+  X(String, ProxyServerUser, "username")         \
+  X(String, ProxyServerPassword, "")
 
 #define TESSARINE_INDEXED_PREFERENCE_KEYS(X) \
   X(Number, SavedStorageValue, 0)            \

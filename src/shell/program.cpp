@@ -4,8 +4,10 @@
 #include "calculator/progress_bar_window.hpp"
 #include "calculator/tape_window.hpp"
 #include "conversion/currency_error_window.hpp"
+#include "conversion/version_update_error_window.hpp"
 #include "shell/main_window_parts.hpp"
 #include "shell/tessarine_app.hpp"
+#include "shell/update_windows.hpp"
 #include "statistics/stats_windows.hpp"
 
 namespace tessarine {
@@ -32,6 +34,14 @@ void Program::RegisterWindows() {
                     [this] { return std::make_unique<ProgressBarWindow>(platform_); });
   windows_.Register(CurrencyErrorWindow::kName,
                     [this] { return std::make_unique<CurrencyErrorWindow>(platform_); });
+  windows_.Register(VersionUpdateErrorWindow::kName,
+                    [this] { return std::make_unique<VersionUpdateErrorWindow>(platform_); });
+  windows_.Register(VersionUpdateWindow::kName,
+                    [this] { return std::make_unique<VersionUpdateWindow>(context_); });
+  windows_.Register(VersionUpToDateWindow::kName,
+                    [this] { return std::make_unique<VersionUpToDateWindow>(platform_); });
+  windows_.Register(VersionUpdateDownloadWindow::kName,
+                    [this] { return std::make_unique<VersionUpdateDownloadWindow>(platform_); });
   statistics::RegisterStatsWindows(context_);
 }
 

@@ -9,6 +9,7 @@
 #include "settings/preference_keys.hpp"
 #include "shell/main_menu.hpp"
 #include "shell/program.hpp"
+#include "shell/update_windows.hpp"
 
 namespace tessarine {
 
@@ -16,7 +17,7 @@ TessarineApp::TessarineApp(Program& program)
     : program_(program), menu_bar_(program.Context().menu_bar) {
   BuildMainMenu(menu_bar_);
   // FORWARD CALL: the items whose windows are not built yet (about, preferences,
-  // constants, donation, the update check) have their place here and do nothing.
+  // constants, donation) have their place here and do nothing.
   const auto nothing_yet = [] {};
   handlers_ = {
       {"VisitOurWebSiteMenu", [this] { _VisitOurWebSiteMenu_Action(); }},
@@ -30,7 +31,7 @@ TessarineApp::TessarineApp(Program& program)
       {"FileSaveTape", [this] { _FileSaveTape_Action(); }},
       {"MenuCustomize", nothing_yet},
       {"DonateMenu", nothing_yet},
-      {"CheckForUpdatesMenu", nothing_yet},
+      {"CheckForUpdatesMenu", [this] { _CheckForUpdatesMenu_Action(); }},
       {"FilePageSetup", [this] { _FilePageSetup_Action(); }},
       {"FilePrintTape", [this] { _FilePrintTape_Action(); }},
       {"FileQuit", [this] { _FileQuit_Action(); }},
@@ -160,6 +161,14 @@ void TessarineApp::_FileQuit_Action() {
     calc->Close();
   else
     program_.GetPlatform().desktop.Quit();
+}
+
+}  // namespace tessarine
+
+namespace tessarine {
+
+void TessarineApp::_CheckForUpdatesMenu_Action() {
+  ShowUpdateSheet(program_.Context(), VersionUpdateWindow::kName);
 }
 
 }  // namespace tessarine
