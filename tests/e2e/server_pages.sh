@@ -5,8 +5,8 @@
 # version against it. Exit 77 (skipped) when nginx is missing or cannot start.
 # Usage: server_pages.sh PAGES_PROGRAM DRIVER
 set -u
-pages=$1
-driver=$2
+pages=$(realpath "$1")
+driver=$(realpath "$2")
 here=$(cd "$(dirname "$0")" && pwd)
 server=$here/../../server
 snapshot=$server/data/eurofxref-daily-2024-06-28.xml

@@ -21,7 +21,7 @@ Rows AllRows() {
   Rows rows;
   const auto units = CurrencyUnits();
   for (int i = 0; i < kCurrencyCount; ++i)
-    rows.emplace_back(std::string(units[i].name), CStr(i + 0.5));
+    rows.emplace_back(std::string(units[i].name), std::to_string(i) + ".5");
   return rows;
 }
 

@@ -69,10 +69,11 @@ TEST(PagesTest, VersionPageCarriesMarkerAndVersion) {
 class RefusalTest : public ::testing::Test {
  protected:
   std::string File(const std::string& text) {
-    const std::string path = ::testing::TempDir() + "/rates.xml";
+    const std::string path = ::testing::TempDir() + "/rates" + std::to_string(++files_) + ".xml";
     std::ofstream(path) << text;
     return path;
   }
+  int files_ = 0;
 };
 
 TEST_F(RefusalTest, WrongFilesAreRefusedWithTheirReason) {
