@@ -1,5 +1,6 @@
 # Tessarine: every command a developer or CI needs, on a fresh Debian machine.
-#   make run    install what is missing, build, start the calculator
+#   make run    install what is missing, build, start the maker's server, start the calculator
+#   make serve  the maker's server (nginx) on 127.0.0.1:SERVE_PORT; make serve-stop stops it
 #   make test   install what is missing, build, run every test (SAN=1: under ASan+UBSan)
 #   make bench  build optimised and run the benchmarks
 #   make deps   only install the Debian packages the project needs
@@ -12,7 +13,8 @@ PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenc
             qt6-base-dev qt6-multimedia-dev qt6-svg-dev libspeechd-dev speech-dispatcher poppler-utils \
             fonts-liberation2 xvfb xauth xdotool imagemagick clang-format clang-tidy \
             pulseaudio pulseaudio-utils sox espeak-ng speech-dispatcher-espeak-ng \
-            speech-dispatcher-audio-plugins python3
+            speech-dispatcher-audio-plugins python3 \
+            libpugixml-dev nginx
 
 SAN ?= 0
 WERROR ?= 0
@@ -31,7 +33,7 @@ endif
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build test run bench fuzz clean format format-check tidy
+.PHONY: all deps configure build test run serve serve-stop bench fuzz clean format format-check tidy
 
 all: build
 
@@ -77,13 +79,23 @@ tidy: configure
 
 # The desktop calculator. Without a display (DISPLAY and WAYLAND_DISPLAY empty) it
 # runs for a few seconds on a virtual one, and a screenshot shows what it drew.
-run: build
+run: build serve
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
 	  $(BUILD_DIR)/desktop/tessarine; \
 	else \
 	  echo "No display (DISPLAY and WAYLAND_DISPLAY are empty): running Tessarine under Xvfb for a few seconds."; \
 	  desktop/xvfb_screenshot.sh $(BUILD_DIR)/desktop/tessarine $(BUILD_DIR)/screenshot.png; \
 	fi
+
+# The maker's web server on loopback: nginx, as the current user, serving pages made
+# from the bundled rate snapshot, where a build from source fetches them
+# (TESSARINE_MAKER_SERVER, 127.0.0.1:8642 by default). The base address is the
+# last line printed; running it again while it runs only prints that address.
+SERVE_PORT ?= 8642
+serve: build
+	@server/serve.sh start $(BUILD_DIR)/serve $(SERVE_PORT) $(BUILD_DIR)/server/tessarine-pages
+serve-stop:
+	@server/serve.sh stop $(BUILD_DIR)/serve
 
 # After the micro-benchmarks comes the start-up benchmark (docs/benchmarks.md): time
 # to the main window and memory of tessarine, an empty Qt window, SpeedCrunch and

@@ -8,15 +8,20 @@
 #include "conversion/catalogue.hpp"
 #include "conversion/convert_key.hpp"
 #include "conversion/currency_error_window.hpp"
+#include "conversion/proxy_settings.hpp"
+#include "conversion/rate_page.hpp"
 #include "conversion/rates_age.hpp"
+#include "conversion/version_update_error_window.hpp"
 #include "runtime/date.hpp"
 #include "runtime/text.hpp"
+#include "settings/preference_keys.hpp"
 
 namespace tessarine {
 
 namespace {
 
 constexpr std::uint32_t kStaleRatesColor = 0xFF0000;
+constexpr std::uint32_t kFreshRatesColor = 0x000000;
 
 }  // namespace
 
@@ -43,7 +48,16 @@ ConvertTab::ConvertTab(CalcWindow& window, AppContext& app)
   convert_key.events.Open = [&convert_key] { convert_key.SetCaption("Convert"); };
   convert_key.events.Action = [this] { ConversionUpdateNowButton_Action(); };
   ResultLabel.events.MouseDown = [this](int x, int y) { return ConversionResult_MouseDown(x, y); };
-  UpdateCurrencyButton.events.Action = [this] { UpdateCurrencyExchangeRates(); };
+  UpdateCurrencyButton.events.Action = [this] { UpdateCurrencyButton_Action(); };
+
+  BasicHTTPsocket = std::make_unique<BasicHTTP>(app.platform.sockets, app.platform.clock);
+  BasicHTTPsocket->SockConnected = [this] { BasicHTTPsocket_SockConnected(); };
+  BasicHTTPsocket->PageReceived = [this](const std::string&, const std::string& page, bool) {
+    BasicHTTPsocket_PageReceived(page);
+  };
+  BasicHTTPsocket->TCPError = [this](std::int32_t) { BasicHTTPsocket_TCPError(); };
+  // A bad status (ProtocolError, Cancelled) has no handler: the button stays on
+  // "Cancel" until the user presses it.
 }
 
 void ConvertTab::ConversionCategoryPopup_Change() {
@@ -111,8 +125,62 @@ bool ConvertTab::ConversionResult_MouseDown(int, int) {
   return false;
 }
 
+void ConvertTab::UpdateCurrencyButton_Action() {
+  if (StrEq(UpdateCurrencyButton.Caption(), "Update")) {
+    UpdateCurrencyExchangeRates();
+    return;
+  }
+  BasicHTTPsocket->Stop();
+  CurrencyConversionInfo.SetText("Last updated: " + CurrencyTimeAndDate);
+  UpdateCurrencyButton.SetCaption("Update");
+}
+
 void ConvertTab::UpdateCurrencyExchangeRates() {
-  // Forward call: the rate update over the network fills this in.
+  UpdateCurrencyButton.SetCaption("Cancel");
+  CurrencyConversionInfo.SetText("Connecting to server...");
+  DataBuffer.clear();
+  ApplyProxySettings(app_.prefs, *BasicHTTPsocket);
+  BasicHTTPsocket->Get(RatesPageURL(app_.platform));
+}
+
+void ConvertTab::BasicHTTPsocket_SockConnected() {
+  CurrencyConversionInfo.SetText("Connecting to server...");
+  DataBuffer.clear();
+}
+
+// Whatever page arrives counts as an update: its body is not checked.
+void ConvertTab::BasicHTTPsocket_PageReceived(const std::string& page) {
+  DataBuffer = page;
+  UpdateCurrencyButton.SetCaption("Update");
+  const Date now(app_.platform.clock);
+  CurrencyTimeAndDate = now.ShortDate() + " " + now.ShortTime();
+  CurrencyDate = now.ShortDate();
+  CurrencyConversionInfo.SetText("Last updated: " + CurrencyTimeAndDate);
+  CurrencyConversionInfo.SetTextColor(kFreshRatesColor);
+  const auto rows = CurrencyUnits();
+  for (int i = 0; i < kCurrencyCount; ++i) Currency(i) = ExtractValue(rows[i].name);
+  PrefsModule& prefs = app_.prefs;
+  WriteCurrencyRates(prefs, Currency);
+  prefs.SetStringValue(kCurrencyUpdateTimeAndDateKey, CurrencyTimeAndDate, true);
+  prefs.SetStringValue(kCurrencyUpdateDateKey, CurrencyDate, true);
+  prefs.WriteOut();
+}
+
+void ConvertTab::BasicHTTPsocket_TCPError() {
+  CurrencyConversionInfo.SetText("Last updated: " + CurrencyTimeAndDate);
+  UpdateCurrencyButton.SetCaption("Update");
+  ShowNetworkError(app_, kRatesNotUpdatedText);
+}
+
+std::string ConvertTab::ExtractValue(std::string_view name) const {
+  return tessarine::ExtractValue(DataBuffer, name);
+}
+
+void ConvertTab::Started(const std::string& now) {
+  // The stored date never holds a time, so this runs at every start while the
+  // setting is on.
+  if (ReadPref(app_.prefs, prefs::UpdateExchangeRates) && !StrEq(CurrencyDate, now))
+    UpdateCurrencyExchangeRates();
 }
 
 void ConvertTab::Restore(OpenStep step) {
@@ -158,6 +226,7 @@ void ConvertTab::Closing() {
 std::optional<FieldValue> ConvertTab::FieldByName(std::string_view name) const {
   if (StrEq(name, "CurrencyTimeAndDate")) return FieldValue{CurrencyTimeAndDate};
   if (StrEq(name, "CurrencyDate")) return FieldValue{CurrencyDate};
+  if (StrEq(name, "DataBuffer")) return FieldValue{DataBuffer};
   return std::nullopt;
 }
 

@@ -3,6 +3,7 @@
 // the page keeps between runs.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +11,7 @@
 #include "calculator/calc_window.hpp"
 #include "calculator/main_window_part.hpp"
 #include "conversion/currency_table.hpp"
+#include "http/basic_http.hpp"
 #include "settings/app_context.hpp"
 
 namespace tessarine {
@@ -31,11 +33,20 @@ class ConvertTab final : public MainWindowPart {
   bool ConversionResult_MouseDown(int x, int y);
   void ShowHideCurrencyUpdateInfo();
 
-  // Fetches the rates from the server. Not wired to the network yet: does nothing.
+  // The rate update: the button toggles between a request and its cancel; the page
+  // that arrives replaces the table, its dates and the file at once.
+  std::unique_ptr<BasicHTTP> BasicHTTPsocket;
+  std::string DataBuffer;  // the last page's body; empty while a request runs
+  void UpdateCurrencyButton_Action();
   void UpdateCurrencyExchangeRates();
+  void BasicHTTPsocket_SockConnected();
+  void BasicHTTPsocket_PageReceived(const std::string& page);
+  void BasicHTTPsocket_TCPError();
+  std::string ExtractValue(std::string_view name) const;
 
   void Restore(OpenStep step) override;
   void Closing() override;
+  void Started(const std::string& now) override;
   std::optional<FieldValue> FieldByName(std::string_view name) const override;
 
  private:

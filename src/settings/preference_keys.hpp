@@ -50,7 +50,7 @@ namespace tessarine {
   X(Number, NumberOfLaunchesVal, 1)               \
   X(Boolean, ShowDonationReminder, true)          \
   X(Number, NumberOfConstants, -1)                \
-  X(Boolean, UpdateExchangeRates, false)          \
+  X(Boolean, UpdateExchangeRates, true)           \
   X(Boolean, CheckForUpdates, false)              \
   X(Boolean, UseProxyServer, false)               \
   X(String, ProxyServerName, "proxy.example.com") \

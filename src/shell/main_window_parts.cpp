@@ -5,6 +5,7 @@
 #include "conversion/convert_tab.hpp"
 #include "expression/expression_tab.hpp"
 #include "fractions/fractions_tab.hpp"
+#include "shell/update_check_part.hpp"
 #include "statistics/stats_tab.hpp"
 
 namespace tessarine {
@@ -15,6 +16,8 @@ void AddMainWindowParts(CalcWindow& window, AppContext& app) {
   window.AddPart(std::make_unique<statistics::StatsTab>(window, app));
   window.AddPart(std::make_unique<FractionsTab>(window, app));
   window.AddPart(std::make_unique<ExpressionTab>(window, app));
+  // Last, so that its check at start-up follows the rate update.
+  window.AddPart(std::make_unique<UpdateCheckPart>(window, app));
 }
 
 }  // namespace tessarine

@@ -4,12 +4,14 @@
 #include "calculator/progress_bar_window.hpp"
 #include "calculator/tape_window.hpp"
 #include "conversion/currency_error_window.hpp"
+#include "conversion/version_update_error_window.hpp"
 #include "shell/about_window.hpp"
 #include "shell/donation_request_window.hpp"
 #include "shell/main_window_parts.hpp"
 #include "shell/preferences_window.hpp"
 #include "shell/restore_defaults_windows.hpp"
 #include "shell/tessarine_app.hpp"
+#include "shell/update_windows.hpp"
 #include "statistics/stats_windows.hpp"
 
 namespace tessarine {
@@ -40,6 +42,14 @@ void Program::RegisterWindows() {
   windows_.Register(AboutWindow::kName, [this] { return std::make_unique<AboutWindow>(context_); });
   windows_.Register(DonationRequestWindow::kName,
                     [this] { return std::make_unique<DonationRequestWindow>(context_); });
+  windows_.Register(VersionUpdateErrorWindow::kName,
+                    [this] { return std::make_unique<VersionUpdateErrorWindow>(platform_); });
+  windows_.Register(VersionUpdateWindow::kName,
+                    [this] { return std::make_unique<VersionUpdateWindow>(context_); });
+  windows_.Register(VersionUpToDateWindow::kName,
+                    [this] { return std::make_unique<VersionUpToDateWindow>(platform_); });
+  windows_.Register(VersionUpdateDownloadWindow::kName,
+                    [this] { return std::make_unique<VersionUpdateDownloadWindow>(platform_); });
   statistics::RegisterStatsWindows(context_);
   windows_.Register(PreferencesWindow::kName,
                     [this] { return std::make_unique<PreferencesWindow>(context_); });

@@ -12,15 +12,13 @@
 #include "shell/main_menu.hpp"
 #include "shell/preferences_window.hpp"
 #include "shell/program.hpp"
+#include "shell/update_windows.hpp"
 
 namespace tessarine {
 
 TessarineApp::TessarineApp(Program& program)
     : program_(program), menu_bar_(program.Context().menu_bar) {
   BuildMainMenu(menu_bar_);
-  // FORWARD CALL: the items whose windows are not built yet (the update check)
-  // have their place here and do nothing.
-  const auto nothing_yet = [] {};
   handlers_ = {
       {"VisitOurWebSiteMenu", [this] { _VisitOurWebSiteMenu_Action(); }},
       {"AppleAbout", [this] { ShowAboutWindow(program_.Context()); }},
@@ -35,7 +33,7 @@ TessarineApp::TessarineApp(Program& program)
       {"MenuCustomize",
        [this] { ShowPreferences(program_.Context(), PreferencesWindow::kConstants); }},
       {"DonateMenu", [this] { program_.GetPlatform().desktop.ShowURL(DonateMenuAddress()); }},
-      {"CheckForUpdatesMenu", nothing_yet},
+      {"CheckForUpdatesMenu", [this] { _CheckForUpdatesMenu_Action(); }},
       {"FilePageSetup", [this] { _FilePageSetup_Action(); }},
       {"FilePrintTape", [this] { _FilePrintTape_Action(); }},
       {"FileQuit", [this] { _FileQuit_Action(); }},
@@ -165,6 +163,14 @@ void TessarineApp::_FileQuit_Action() {
     calc->Close();
   else
     program_.GetPlatform().desktop.Quit();
+}
+
+}  // namespace tessarine
+
+namespace tessarine {
+
+void TessarineApp::_CheckForUpdatesMenu_Action() {
+  ShowUpdateSheet(program_.Context(), VersionUpdateWindow::kName);
 }
 
 }  // namespace tessarine

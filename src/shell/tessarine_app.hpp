@@ -33,6 +33,7 @@ class TessarineApp {
  private:
   void Event_EnableMenuItems();
   void _VisitOurWebSiteMenu_Action();
+  void _CheckForUpdatesMenu_Action();
   void _FileQuit_Action();
   void _FileTapeControlMenu_Action();
   void _FileSaveTape_Action();

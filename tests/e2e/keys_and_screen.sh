@@ -2,10 +2,11 @@
 # End to end: the built calculator on a virtual X display, keys typed by xdotool as
 # a user types them, the screen read back as pixels. No window manager runs, so the
 # window stands where it put itself; its place is read from the X server.
-#   tests/e2e/keys_and_screen.sh BINARY        (CTest runs it; it starts Xvfb itself)
+#   tests/e2e/keys_and_screen.sh BINARY DRIVER (CTest runs it; it starts Xvfb itself)
 set -euo pipefail
 
 binary=$1
+driver=${2:-}
 if [ -z "${E2E_INNER:-}" ]; then
   export E2E_INNER=1
   exec xvfb-run -a -s "-screen 0 800x600x24" "$0" "$@"
@@ -28,6 +29,12 @@ fail() {
   echo "FAIL: $*" >&2
   exit 1
 }
+
+# The rate update at start stays off: a sheet over the keypad would take the keys.
+if [ -n "$driver" ]; then
+  echo 'setpref boolean UpdateExchangeRates false' > "$work/prefs.drive"
+  "$driver" --prefs-dir "$XDG_CONFIG_HOME/Tessarine" "$work/prefs.drive" > /dev/null
+fi
 
 "$binary" > "$work/out.log" 2>&1 &
 pid=$!
