@@ -7,6 +7,7 @@
 #include "runtime/text.hpp"
 #include "settings/constants_catalogue.hpp"
 #include "settings/preference_keys.hpp"
+#include "shell/preferences_help_texts.hpp"
 #include "shell/preferences_sounds.hpp"
 
 namespace tessarine {
@@ -202,7 +203,9 @@ void PreferencesWindow::NumberOfDecimalsEditField_TextChange() {
   if (CalcWindow* calc = Calc(app_)) calc->FormatResult(calc->Result);
 }
 
-void PreferencesWindow::HelptagsEnabled(bool) {}
+void PreferencesWindow::HelptagsEnabled(bool enabled) {
+  SetPreferencesHelpTags(*this, enabled);
+}
 
 void PreferencesWindow::UseProxyCheckBox_Action() {
   Get("ProxyGroupBox").SetEnabled(Get("UseProxyCheckBox").IsDown());

@@ -6,7 +6,7 @@
 #include <QTest>
 
 #include "gui_fixture.hpp"
-#include "picture_canvas.hpp"
+#include "named_picture_canvas.hpp"
 #include "shell/tessarine_app.hpp"
 #include "suites.hpp"
 #include "window_canvas.hpp"
