@@ -11,29 +11,16 @@
 namespace tessarine::expression {
 namespace {
 
-struct Case {
-  const char* name;
-  const char* typed;
-  const char* printed;
-  friend std::ostream& operator<<(std::ostream& os, const Case& c) { return os << c.name; }
-};
-
-class PrintedForm : public testing::TestWithParam<Case> {};
-
-TEST_P(PrintedForm, IsFixedNotation) {
-  EXPECT_EQ(ValueOf(GetParam().typed), GetParam().printed);
-}
-
 INSTANTIATE_TEST_SUITE_P(
-    Numbers, PrintedForm,
-    testing::Values(Case{"Whole", "2.0", "2"}, Case{"Third", "1/3", "0.3333333333333333"},
-                    Case{"NegativeZero", "-0", "0"}, Case{"Small", "1e-7", "0.0000001"},
-                    Case{"Large", "1e20", "100000000000000000000"},
-                    Case{"ShortestDigitsPadded", "123456789012345678", "123456789012345680"},
-                    Case{"Overflow", "1e308*10", "INF"},
-                    Case{"NegativeOverflow", "-1e308*10", "-INF"},
-                    Case{"LiteralTooLarge", "1e400", "INF"}),
-    [](const testing::TestParamInfo<Case>& info) { return std::string(info.param.name); });
+    Numbers, TypedFormula,
+    testing::Values(PrintCase{"Whole", "2.0", "2"}, PrintCase{"Third", "1/3", "0.3333333333333333"},
+                    PrintCase{"NegativeZero", "-0", "0"}, PrintCase{"Small", "1e-7", "0.0000001"},
+                    PrintCase{"Large", "1e20", "100000000000000000000"},
+                    PrintCase{"ShortestDigitsPadded", "123456789012345678", "123456789012345680"},
+                    PrintCase{"Overflow", "1e308*10", "INF"},
+                    PrintCase{"NegativeOverflow", "-1e308*10", "-INF"},
+                    PrintCase{"LiteralTooLarge", "1e400", "INF"}),
+    [](const testing::TestParamInfo<PrintCase>& info) { return std::string(info.param.name); });
 
 TEST(PrintedForm, ReadsBackExactlyThroughCDbl) {
   struct Row {

@@ -1,6 +1,9 @@
 // Runs the Expression tab's wrapping of a typed text and records every event raised.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,5 +60,17 @@ inline std::string ValueOf(std::string_view typed) {
   if (o.printed.size() != 1) return "<printed " + std::to_string(o.printed.size()) + " times>";
   return o.printed[0];
 }
+
+// One typed formula and what it must print: the row of the tables of values.
+struct PrintCase {
+  const char* name;
+  const char* typed;
+  const char* printed;
+  friend std::ostream& operator<<(std::ostream& os, const PrintCase& c) { return os << c.name; }
+};
+
+// The tables of values (precedence, functions, printed form) instantiate this
+// one test with their rows.
+class TypedFormula : public testing::TestWithParam<PrintCase> {};
 
 }  // namespace tessarine::expression

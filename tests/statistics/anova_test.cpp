@@ -16,7 +16,7 @@ AnovaChoice Choice(int samples, bool between) {
   return choice;
 }
 
-// Figures recorded by reference_figures.py.
+// Figures recorded by tools/statistics_reference_figures.py.
 struct ReferenceCase {
   const char* name;
   bool between;

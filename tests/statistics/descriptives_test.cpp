@@ -23,9 +23,9 @@ struct DescriptivesCase {
   std::string text;
 };
 
-// Expected figures worked out in 32-bit floats with numpy (reference_figures.py), in
-// the same order of rounding; the values are picked so a 64-bit accumulator or a
-// missing store shows.
+// Expected figures worked out in 32-bit floats with numpy (tools/statistics_reference_figures.py),
+// in the same order of rounding; the values are picked so a 64-bit accumulator or a missing store
+// shows.
 TEST(Descriptives, SheetTextPerSample) {
   const DescriptivesCase cases[] = {
       {"sum_loses_what_mean_keeps",

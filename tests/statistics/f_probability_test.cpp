@@ -16,7 +16,7 @@ struct FTailRow {
   double p[3];  // at F = 0.25, 1.0, 3.5
 };
 
-// Recorded by reference_figures.py. The upper tail from scipy 1.10.1 (Debian
+// Recorded by tools/statistics_reference_figures.py. The upper tail from scipy 1.10.1 (Debian
 // python3-scipy 1.10.1-2), scipy.stats.f.sf(F, dfn, dfd).
 const FTailRow kScipyFTail[] = {
     {1, 1, {0.70483276469913336, 0.50000000000000011, 0.31250561891173018}},

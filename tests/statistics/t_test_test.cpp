@@ -17,7 +17,7 @@ TTestChoice Choice(bool unpaired, bool one_tailed = false) {
   return choice;
 }
 
-// Figures recorded by reference_figures.py.
+// Figures recorded by tools/statistics_reference_figures.py.
 struct ReferenceCase {
   const char* name;
   bool unpaired;

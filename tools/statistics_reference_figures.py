@@ -1,6 +1,6 @@
 # Regenerates the reference figures recorded in the statistics tests. Run by hand
 # with Debian's python3-scipy (1.10.1) and python3-numpy (1.24.2):
-#   /usr/bin/python3 tests/statistics/reference_figures.py
+#   /usr/bin/python3 tools/statistics_reference_figures.py
 # Not part of the build. Three kinds of figure:
 #  - textbook results from scipy (F upper tail, pooled and paired t, one-way ANOVA),
 #  - the 32-bit rounding order of the t-test and ANOVA restated in numpy float32,
