@@ -1,9 +1,11 @@
 #include "menu_bar_view.hpp"
 
 #include <QAction>
+#include <QEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <algorithm>
 #include <cctype>
 
 #include "runtime/menu_bar.hpp"
@@ -18,6 +20,14 @@ std::pair<std::string, int> Key(const std::string& name, int index) {
   std::string folded = name;
   for (char& c : folded) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
   return {folded, index};
+}
+
+// The menu's title with its first letter as mnemonic (Alt+F opens File); the
+// titles begin with different letters.
+QString MenuTitle(const std::string& text) {
+  QString title = QString::fromStdString(text);
+  title.replace(QLatin1Char('&'), QStringLiteral("&&"));
+  return title.isEmpty() ? title : QLatin1Char('&') + title;
 }
 
 }  // namespace
@@ -42,8 +52,9 @@ void MenuBarView::Rebuild() {
   bar_.clear();
   actions_.clear();
   for (const Menu& menu : app_.GetMenuBar().Menus()) {
-    QMenu* qmenu = bar_.addMenu(QString::fromStdString(menu.text));
+    QMenu* qmenu = bar_.addMenu(MenuTitle(menu.text));
     qmenu->setObjectName(QString::fromStdString(menu.name));
+    qmenu->installEventFilter(this);
     connect(qmenu, &QMenu::aboutToShow, this, [this] { app_.EnableMenuItems(); });
     for (const MenuItem& item : menu.items) {
       if (item.IsSeparator()) {
@@ -84,7 +95,32 @@ QAction* MenuBarView::ActionFor(const std::string& name, int index) const {
   return it == actions_.end() ? nullptr : it->second.data();
 }
 
+bool MenuBarView::eventFilter(QObject* watched, QEvent* event) {
+  // The menus behind the bar's overflow arrow would open past the window's right
+  // edge when reached from the keyboard; they open under the arrow instead.
+  auto* menu = qobject_cast<QMenu*>(watched);
+  if (menu && event->type() == QEvent::Show && !bar_.isNativeMenuBar()) {
+    const QPoint bar_right = bar_.mapToGlobal(QPoint(bar_.width(), bar_.height()));
+    if (menu->x() >= bar_right.x() - 1)
+      menu->move(std::max(bar_.mapToGlobal(QPoint(0, 0)).x(), bar_right.x() - menu->width()),
+                 menu->y());
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+void MenuBarView::OpenFirstMenu() {
+  for (QAction* action : bar_.actions())
+    if (action->menu() && action->isVisible()) {
+      bar_.setActiveAction(action);
+      return;
+    }
+}
+
 bool MenuBarView::TryShortcut(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier) {
+    OpenFirstMenu();
+    return true;
+  }
   const QKeyCombination chord(event.modifiers() & ~Qt::KeypadModifier,
                               static_cast<Qt::Key>(event.key()));
   for (const Menu& menu : app_.GetMenuBar().Menus()) {
