@@ -11,7 +11,8 @@ bool IsDarkPalette(const QPalette& palette) {
 }
 
 void UseSystemPalette(const QPalette& system) {
-  QApplication::setPalette(IsDarkPalette(system) ? system : QApplication::style()->standardPalette());
+  QApplication::setPalette(IsDarkPalette(system) ? system
+                                                 : QApplication::style()->standardPalette());
 }
 
 }  // namespace tessarine::desktop

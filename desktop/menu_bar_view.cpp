@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QToolButton>
 #include <algorithm>
 #include <cctype>
 
@@ -33,6 +34,9 @@ QString MenuTitle(const std::string& text) {
 }  // namespace
 
 MenuBarView::MenuBarView(TessarineApp& app, QMenuBar& bar) : QObject(&bar), app_(app), bar_(bar) {
+  // The overflow arrow of the narrow window, read by its purpose.
+  if (auto* more = bar_.findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button")))
+    more->setAccessibleName(QStringLiteral("More menus"));
   Rebuild();
   QPointer<MenuBarView> self(this);
   app_.GetMenuBar().Observe([self](const MenuItem* item) {

@@ -26,6 +26,8 @@ int main(int argc, char** argv) {
       {"fractions", tessarine::desktop::testing::RunFractionsTests},
       {"expression", tessarine::desktop::testing::RunExpressionTests},
       {"http", tessarine::desktop::testing::RunHttpTests},
+      {"desktop", tessarine::desktop::testing::RunDesktopTests},
+      {"look", tessarine::desktop::testing::RunLookTests},
   };
   if (argc < 2 || !suites.count(argv[1])) {
     std::string names;

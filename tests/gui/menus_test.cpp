@@ -25,7 +25,7 @@ class MenusTest : public GuiSuite {
     QMenuBar* bar = f_->View().menuBar();
     QStringList titles;
     for (QAction* action : bar->actions()) titles << action->text();
-    QCOMPARE(titles, (QStringList{"File", "Edit", "Constants", "Speech", "Help"}));
+    QCOMPARE(titles, (QStringList{"&File", "&Edit", "&Constants", "&Speech", "&Help"}));
     QAction* tape = f_->View().Menus().ActionFor("FileTapeControlMenu");
     QVERIFY(tape);
     QCOMPARE(tape->shortcut(), QKeySequence(QStringLiteral("Ctrl+T")));

@@ -15,5 +15,7 @@ int RunStatisticsTests(int argc, char** argv);
 int RunFractionsTests(int argc, char** argv);
 int RunExpressionTests(int argc, char** argv);
 int RunHttpTests(int argc, char** argv);
+int RunDesktopTests(int argc, char** argv);
+int RunLookTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing
