@@ -10,6 +10,7 @@
 #include <cctype>
 
 #include "runtime/menu_bar.hpp"
+#include "shell/key_chords.hpp"
 #include "shell/main_menu.hpp"
 #include "shell/tessarine_app.hpp"
 
@@ -23,12 +24,21 @@ std::pair<std::string, int> Key(const std::string& name, int index) {
   return {folded, index};
 }
 
-// The menu's title with its first letter as mnemonic (Alt+F opens File); the
-// titles begin with different letters.
-QString MenuTitle(const std::string& text) {
+// The menu's title with a mnemonic (Alt and the letter opens it): its first
+// letter that no earlier title took and that Alt does not already give the keypad
+// (Alt+S is the sine, Alt+C the cosine).
+QString MenuTitle(const std::string& text, QString& taken) {
   QString title = QString::fromStdString(text);
   title.replace(QLatin1Char('&'), QStringLiteral("&&"));
-  return title.isEmpty() ? title : QLatin1Char('&') + title;
+  for (qsizetype i = 0; i < title.size(); ++i) {
+    const QChar letter = title[i].toLower();
+    if (!letter.isLetter() || letter.unicode() > 0x7f || taken.contains(letter)) continue;
+    if (MapKeyForChord(std::string(1, static_cast<char>(letter.unicode())), {false, true, false}))
+      continue;
+    taken += letter;
+    return title.insert(i, QLatin1Char('&'));
+  }
+  return title;
 }
 
 }  // namespace
@@ -55,8 +65,9 @@ void MenuBarView::Rebuild() {
     if (QMenu* menu = action->menu()) menu->deleteLater();
   bar_.clear();
   actions_.clear();
+  QString mnemonics;
   for (const Menu& menu : app_.GetMenuBar().Menus()) {
-    QMenu* qmenu = bar_.addMenu(MenuTitle(menu.text));
+    QMenu* qmenu = bar_.addMenu(MenuTitle(menu.text, mnemonics));
     qmenu->setObjectName(QString::fromStdString(menu.name));
     qmenu->installEventFilter(this);
     connect(qmenu, &QMenu::aboutToShow, this, [this] { app_.EnableMenuItems(); });

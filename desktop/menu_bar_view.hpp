@@ -6,7 +6,7 @@
 // The shortcuts are the Linux chords of the items' literals (LinuxShortcut). The
 // menu shows them, but the main window tests them itself (TryShortcut), after the
 // keypad's own chords, so that a chord has one meaning whichever way it comes.
-// F10 opens the first menu, Alt and a title's first letter that menu.
+// F10 opens the first menu, Alt and a title's underlined letter that menu.
 #pragma once
 
 #include <QKeySequence>
