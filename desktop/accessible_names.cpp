@@ -1,7 +1,10 @@
 #include "accessible_names.hpp"
 
+#include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QChar>
 #include <QStringList>
+#include <QWidget>
 
 #include "runtime/control.hpp"
 
@@ -112,6 +115,21 @@ QString AccessibleNameFor(const Control& control) {
     if (!caption.isEmpty()) return caption;
   }
   return WordsOfName(name);
+}
+
+void SetAccessibleName(QWidget& widget, const QString& name) {
+  if (widget.accessibleName() == name) return;
+  widget.setAccessibleName(name);
+  // A list's or text area's viewport is what assistive technology meets first;
+  // its scroll bars and their frames are named for what they are.
+  if (auto* area = qobject_cast<QAbstractScrollArea*>(&widget)) {
+    for (QWidget* part : area->findChildren<QWidget*>())
+      if (part->accessibleName().isEmpty())
+        part->setAccessibleName(name + QStringLiteral(" scroll bar"));
+    area->viewport()->setAccessibleName(name);
+  }
+  QAccessibleEvent changed(&widget, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&changed);
 }
 
 }  // namespace tessarine::desktop

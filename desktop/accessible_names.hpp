@@ -4,6 +4,8 @@
 #include <QString>
 #include <string>
 
+class QWidget;
+
 namespace tessarine {
 class Control;
 }
@@ -15,6 +17,10 @@ namespace tessarine::desktop {
 // caption, anything else by the words of its name ("DisplayBackground" reads
 // "display background"). Never empty.
 QString AccessibleNameFor(const Control& control);
+
+// Gives the widget the name and, when it changed, tells assistive technology, so
+// that the display's new value is read out.
+void SetAccessibleName(QWidget& widget, const QString& name);
 
 // The words of a control's name, without the word "Button": "ButtonRoundDown"
 // reads "round down".

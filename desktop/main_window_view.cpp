@@ -29,6 +29,7 @@ MainWindowView::MainWindowView(Program& program, QtPlatform& platform)
   setWindowTitle(QStringLiteral("Tessarine"));
   setAccessibleName(QStringLiteral("Tessarine calculator"));
   canvas_->setObjectName(QStringLiteral("CalcWindowCanvas"));
+  canvas_->setAccessibleName(QStringLiteral("Calculator"));
   setCentralWidget(canvas_);
 
   // The desktop's global menu when one runs (then the bar takes no room in the

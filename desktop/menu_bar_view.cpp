@@ -44,6 +44,7 @@ QString MenuTitle(const std::string& text, QString& taken) {
 }  // namespace
 
 MenuBarView::MenuBarView(TessarineApp& app, QMenuBar& bar) : QObject(&bar), app_(app), bar_(bar) {
+  bar_.setAccessibleName(QStringLiteral("Menu bar"));
   // The overflow arrow of the narrow window, read by its purpose.
   if (auto* more = bar_.findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button")))
     more->setAccessibleName(QStringLiteral("More menus"));

@@ -492,7 +492,7 @@ void WindowCanvas::ApplyText(const Bound& bound) {
   } else if (auto* box = qobject_cast<QGroupBox*>(widget)) {
     box->setTitle(Caption(control.Text()));
   }
-  widget->setAccessibleName(AccessibleNameFor(control));
+  SetAccessibleName(*widget, AccessibleNameFor(control));
 }
 
 void WindowCanvas::ApplyValue(const Bound& bound) {
