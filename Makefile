@@ -6,6 +6,8 @@
 #   make deps   only install the Debian packages the project needs
 #   make format format every C++ file; make test checks the format first
 #   make tidy   clang-tidy's bugprone and performance checks over src/
+#   make install    build and install under PREFIX (default /usr/local), into DESTDIR if set
+#   make package    build the Debian package (build/tessarine_*.deb)
 
 PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenchmark-dev clang \
             libclang-rt-14-dev \
@@ -14,9 +16,11 @@ PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenc
             fonts-liberation2 xvfb xauth xdotool imagemagick clang-format clang-tidy \
             pulseaudio pulseaudio-utils sox espeak-ng speech-dispatcher-espeak-ng \
             speech-dispatcher-audio-plugins python3 \
-            libpugixml-dev nginx
+            libpugixml-dev nginx \
+            desktop-file-utils appstream lintian dpkg-dev fakeroot
 
 SAN ?= 0
+PREFIX ?= /usr/local
 WERROR ?= 0
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
@@ -27,13 +31,14 @@ else
   BUILD_DIR := build
   CMAKE_FLAGS := -DCMAKE_BUILD_TYPE=RelWithDebInfo
 endif
+CMAKE_FLAGS += -DCMAKE_INSTALL_PREFIX=$(PREFIX)
 ifeq ($(WERROR),1)
   CMAKE_FLAGS += -DTESSARINE_WERROR=ON
 endif
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build test run serve serve-stop bench fuzz clean format format-check tidy
+.PHONY: all deps configure build test run serve serve-stop bench fuzz clean format format-check tidy install package
 
 all: build
 
@@ -61,6 +66,12 @@ configure: deps
 
 build: configure
 	@cmake --build $(BUILD_DIR) -j $(JOBS)
+
+install: build
+	@DESTDIR=$(DESTDIR) cmake --install $(BUILD_DIR)
+
+package: build
+	@cmake --build $(BUILD_DIR) --target package
 
 test: build format-check
 	@cd $(BUILD_DIR) && ctest --output-on-failure -j $(JOBS)

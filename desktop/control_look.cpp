@@ -64,7 +64,9 @@ ControlLook LookFor(const Control& control) {
     look.pixel_size = 12;
   }
 
-  if (Is(control, "ButtonClear"))
+  if (Is(control, "DisplayBackground"))
+    look.background = QColor(0xff, 0xff, 0xff);
+  else if (Is(control, "ButtonClear"))
     look.background = QColor(0xff, 0x00, 0x00);
   else if (Is(control, "ButtonClearEntry"))
     look.background = QColor(0xff, 0xff, 0x66);

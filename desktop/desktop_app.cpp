@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "app_palette.hpp"
 #include "calculator/calc_window.hpp"
 #include "control_look.hpp"
 #include "main_window_view.hpp"
@@ -21,10 +22,12 @@ constexpr int kFeedbackPreloadMs = 300;
 void ConfigureApplication(QApplication& app) {
   QApplication::setApplicationName(QStringLiteral("Tessarine"));
   QApplication::setApplicationDisplayName(QStringLiteral("Tessarine"));
-  QApplication::setDesktopFileName(QStringLiteral("tessarine"));
+  // The launcher's name, so that the desktop shows the launcher's icon.
+  QApplication::setDesktopFileName(QStringLiteral("io.github.tessarine.Tessarine"));
+  const QPalette system = QApplication::palette();
   if (QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion"))) {
     QApplication::setStyle(fusion);
-    QApplication::setPalette(fusion->standardPalette());
+    UseSystemPalette(system);
   }
   // The program's sans face for everything, the system font's size: one face to
   // load instead of two, and the layout's metrics wherever the window looks.

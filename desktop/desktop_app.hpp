@@ -19,8 +19,8 @@ namespace tessarine::desktop {
 class MainWindowView;
 class WindowDialog;
 
-// The application-wide look: the Fusion style with its own light palette (the
-// program's colours are chosen for a light window), the names the desktop shows.
+// The application-wide look: the Fusion style with its own light palette, or the
+// desktop's palette when that is dark, and the names the desktop shows.
 void ConfigureApplication(QApplication& app);
 
 class DesktopApp final : public WindowHost {

@@ -13,40 +13,18 @@ struct KeyMarks {
   const char16_t* before_base;
   Place after_place;
   const char16_t* after_mark;
-  const char* spoken;
 };
 
 constexpr KeyMarks kKeyMarks[] = {
-    {"ButtonSquareRoot", u"", u"\u221A", Place::Base, u"", "square root"},
-    {"ButtonCubeRoot", u"3", u"\u221A", Place::Base, u"", "cube root"},
-    {"ButtonNthRoot", u"y", u"\u221A", Place::Base, u"", "y-th root"},
-    {"ButtonSquared", u"", u"", Place::Raised, u"2", "x squared"},
-    {"ButtonCubed", u"", u"", Place::Raised, u"3", "x cubed"},
-    {"ButtonXtotheY", u"", u"", Place::Raised, u"y", "x to the power y"},
-    {"ButtonLogBasen", u"", u"", Place::Lowered, u"n", "logarithm to base n"},
-    {"ButtonTenToTheX", u"", u"", Place::Raised, u"x", "ten to the power x"},
-    {"ButtoneToTheX", u"", u"", Place::Raised, u"x", "e to the power x"},
-};
-
-// Keys whose caption is a sign that reads badly aloud.
-struct SpokenName {
-  const char* name;
-  const char* spoken;
-};
-
-constexpr SpokenName kSpokenNames[] = {
-    {"ButtonClear", "clear"},
-    {"ButtonClearEntry", "clear entry"},
-    {"ButtonPlus", "plus"},
-    {"ButtonMinus", "minus"},
-    {"ButtonTimes", "times"},
-    {"ButtonDivide", "divide"},
-    {"ButtonEqual", "equals"},
-    {"ButtonPercent", "percent"},
-    {"ButtonChangeSign", "change sign"},
-    {"ButtonDecimal", "decimal point"},
-    {"ButtonDeltaPercent", "percent change"},
-    {"Buttonpi", "pi"},
+    {"ButtonSquareRoot", u"", u"\u221A", Place::Base, u""},
+    {"ButtonCubeRoot", u"3", u"\u221A", Place::Base, u""},
+    {"ButtonNthRoot", u"y", u"\u221A", Place::Base, u""},
+    {"ButtonSquared", u"", u"", Place::Raised, u"2"},
+    {"ButtonCubed", u"", u"", Place::Raised, u"3"},
+    {"ButtonXtotheY", u"", u"", Place::Raised, u"y"},
+    {"ButtonLogBasen", u"", u"", Place::Lowered, u"n"},
+    {"ButtonTenToTheX", u"", u"", Place::Raised, u"x"},
+    {"ButtoneToTheX", u"", u"", Place::Raised, u"x"},
 };
 
 const KeyMarks* MarksFor(const QString& control_name) {
@@ -69,14 +47,6 @@ std::vector<CaptionRun> KeyCaptionRuns(const QString& control_name, const QStrin
   if (!caption.isEmpty()) runs.push_back({caption, Place::Base});
   if (!after_mark.isEmpty()) runs.push_back({after_mark, marks->after_place});
   return runs;
-}
-
-QString AccessibleKeyName(const QString& control_name, const QString& caption) {
-  if (const KeyMarks* marks = MarksFor(control_name)) return QString::fromLatin1(marks->spoken);
-  for (const SpokenName& entry : kSpokenNames)
-    if (control_name.compare(QLatin1String(entry.name), Qt::CaseInsensitive) == 0)
-      return QString::fromLatin1(entry.spoken);
-  return caption.isEmpty() ? control_name : caption;
 }
 
 }  // namespace tessarine::desktop

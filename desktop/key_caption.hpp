@@ -1,6 +1,5 @@
 // What a key shows: its caption and, on the keys of powers, roots and logarithms,
-// a small raised or lowered mark (the 2 of x², the n of logₙ), plus the name that
-// assistive technology reads for it.
+// a small raised or lowered mark (the 2 of x², the n of logₙ).
 #pragma once
 
 #include <QString>
@@ -17,9 +16,5 @@ struct CaptionRun {
 // The runs of a key, in reading order: the model's caption with the key's marks
 // around it. A key without marks has one run, its caption.
 std::vector<CaptionRun> KeyCaptionRuns(const QString& control_name, const QString& caption);
-
-// A name to read aloud: "x squared" for ButtonSquared, else the caption, else the
-// control's name.
-QString AccessibleKeyName(const QString& control_name, const QString& caption);
 
 }  // namespace tessarine::desktop

@@ -29,10 +29,11 @@ MainWindowView::MainWindowView(Program& program, QtPlatform& platform)
   setWindowTitle(QStringLiteral("Tessarine"));
   setAccessibleName(QStringLiteral("Tessarine calculator"));
   canvas_->setObjectName(QStringLiteral("CalcWindowCanvas"));
+  canvas_->setAccessibleName(QStringLiteral("Calculator"));
   setCentralWidget(canvas_);
 
-  // The menu bar stays in the window, so that the canvas's place is known.
-  menuBar()->setNativeMenuBar(false);
+  // The desktop's global menu when one runs (then the bar takes no room in the
+  // window), else the bar in the window.
   menus_ = new MenuBarView(program_.App(), *menuBar());
 
   binding_->on_window_bounds = [this] { OnModelBounds(); };
@@ -54,7 +55,7 @@ QWidget* MainWindowView::WidgetFor(const std::string& name, int index) const {
 }
 
 QRect MainWindowView::ModelGeometry() const {
-  const int menu = menuBar()->sizeHint().height();
+  const int menu = menuBar()->isNativeMenuBar() ? 0 : menuBar()->sizeHint().height();
   return QRect(calc_.Left(), calc_.Top(), calc_.Width(), calc_.Height() + menu);
 }
 

@@ -6,6 +6,7 @@
 // The shortcuts are the Linux chords of the items' literals (LinuxShortcut). The
 // menu shows them, but the main window tests them itself (TryShortcut), after the
 // keypad's own chords, so that a chord has one meaning whichever way it comes.
+// F10 opens the first menu, Alt and a title's underlined letter that menu.
 #pragma once
 
 #include <QKeySequence>
@@ -36,6 +37,11 @@ class MenuBarView final : public QObject {
   QAction* ActionFor(const std::string& name, int index = -1) const;
   // Runs the menu command whose shortcut the event is. False when none is.
   bool TryShortcut(const QKeyEvent& event);
+  // Opens the first menu for the keyboard (F10); the arrows go on from there.
+  void OpenFirstMenu();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void Rebuild();

@@ -21,6 +21,7 @@
 #include <QWindow>
 
 #include "feedback_module.hpp"
+#include "install_paths.hpp"
 #include "runtime/timer.hpp"
 #include "tape_printer.hpp"
 
@@ -154,12 +155,10 @@ void QtPlatform::Beep() {
 FeedbackModule* QtPlatform::Feedback() {
   if (!feedback_tried_) {
     feedback_tried_ = true;
-    // Beside the program; the sounds in resources/sounds beside its folder.
-    const QString folder = QCoreApplication::applicationDirPath();
-    QLibrary module(folder + QStringLiteral("/libtessarine_feedback.so"));
+    QLibrary module(FeedbackModulePath());
     const auto create =
         reinterpret_cast<CreateFeedbackModuleFunction>(module.resolve(kCreateFeedbackModule));
-    const QByteArray sounds = (folder + QStringLiteral("/../resources/sounds")).toUtf8();
+    const QByteArray sounds = SoundsFolder().toUtf8();
     if (create) feedback_.reset(create(sounds.constData()));  // the library stays loaded
   }
   return feedback_.get();  // nullptr: no module, and the program goes on silently

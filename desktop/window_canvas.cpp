@@ -21,6 +21,7 @@
 #include <QTextCursor>
 #include <algorithm>
 
+#include "accessible_names.hpp"
 #include "control_look.hpp"
 #include "control_widgets.hpp"
 #include "file_drop.hpp"
@@ -491,17 +492,14 @@ void WindowCanvas::ApplyText(const Bound& bound) {
   if (auto* key = qobject_cast<KeyButton*>(widget)) {
     const QString caption = Q(control.Text());
     key->SetRuns(KeyCaptionRuns(name, caption));
-    key->setAccessibleName(AccessibleKeyName(name, caption));
   } else if (auto* label = qobject_cast<QLabel*>(widget)) {
     label->setText(ToScreen(control.Text()));
-    label->setAccessibleName(name);
   } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
     const QString text = Q(control.Text());
     if (edit->text() != text) {
       edit->setText(text);
       ShowSelection(edit, control);  // setText put the caret at the end
     }
-    edit->setAccessibleName(name);
   } else if (auto* area = qobject_cast<QPlainTextEdit*>(widget)) {
     const QString text = ToScreen(control.Text());
     if (area->toPlainText() != text) {
@@ -511,19 +509,14 @@ void WindowCanvas::ApplyText(const Bound& bound) {
       ShowSelection(area, control);  // setPlainText put the caret at the start
       applying_ = was;
     }
-    area->setAccessibleName(name);
   } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
     button->setText(Caption(control.Text()));
-    button->setAccessibleName(control.Text().empty() ? name : Q(control.Text()));
   } else if (auto* picture = qobject_cast<PictureCanvas*>(widget)) {
     picture->SetPictureName(Q(control.Text()));
-    picture->setAccessibleName(name);
   } else if (auto* box = qobject_cast<QGroupBox*>(widget)) {
     box->setTitle(Caption(control.Text()));
-    box->setAccessibleName(control.Text().empty() ? name : Q(control.Text()));
-  } else {
-    widget->setAccessibleName(name);
   }
+  SetAccessibleName(*widget, AccessibleNameFor(control));
 }
 
 void WindowCanvas::ApplyValue(const Bound& bound) {
@@ -587,13 +580,19 @@ void WindowCanvas::ApplyLook(const Bound& bound) {
   if (auto* key = qobject_cast<KeyButton*>(widget)) key->SetFaceColor(look.background);
 
   // The text colour for the active and inactive window; a disabled control keeps
-  // the style's grey.
-  const QColor color = QColor::fromRgb(control.TextColor());
-  QPalette palette = widget->palette();
-  for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
-    for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
-      palette.setColor(group, role, color);
+  // the style's grey. Black is no colour of the program's: such text follows the
+  // palette (light on a dark one), except on a key with a face of its own.
+  QPalette palette;
+  if (control.TextColor() != 0 || look.background.isValid()) {
+    const QColor color = QColor::fromRgb(control.TextColor());
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+      for (const QPalette::ColorRole role :
+           {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        palette.setColor(group, role, color);
+  }
+  // A face of the program's own (the display's) stays in any palette.
+  if (look.background.isValid() && !qobject_cast<KeyButton*>(widget))
+    palette.setColor(QPalette::Base, look.background);
   widget->setPalette(palette);
 }
 

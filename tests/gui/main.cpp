@@ -28,6 +28,8 @@ int main(int argc, char** argv) {
       {"http", tessarine::desktop::testing::RunHttpTests},
       {"preferences", tessarine::desktop::testing::RunPreferencesTests},
       {"help", tessarine::desktop::testing::RunHelpTests},
+      {"desktop", tessarine::desktop::testing::RunDesktopTests},
+      {"look", tessarine::desktop::testing::RunLookTests},
   };
   if (argc < 2 || !suites.count(argv[1])) {
     std::string names;

@@ -17,5 +17,7 @@ int RunExpressionTests(int argc, char** argv);
 int RunHttpTests(int argc, char** argv);
 int RunPreferencesTests(int argc, char** argv);
 int RunHelpTests(int argc, char** argv);
+int RunDesktopTests(int argc, char** argv);
+int RunLookTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing
