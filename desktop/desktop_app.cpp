@@ -59,14 +59,20 @@ void DesktopApp::OnWindowMade(Window& window) {
 
 void DesktopApp::ShowOwnWindow(Window& window) {
   if (DialogFor(window.Name())) return;
-  auto* dialog = new WindowDialog(window, nullptr);
+  MakeDialog(window, false)->show();
+}
+
+WindowDialog* DesktopApp::MakeDialog(Window& window, bool as_sheet) {
+  auto* dialog = new WindowDialog(window, as_sheet ? main_view_.get() : nullptr);
   dialogs_[window.Name()] = dialog;
+  // Closed by its frame or by Escape: the window's own close runs, as from the menu.
   Window* shown = &window;
-  dialog->on_user_close = [this, shown] {
-    dialogs_.erase(shown->Name());
-    if (shown->IsOpen()) shown->Close();
-  };
-  dialog->show();
+  if (!as_sheet)
+    dialog->on_user_close = [this, shown] {
+      dialogs_.erase(shown->Name());
+      if (shown->IsOpen()) shown->Close();
+    };
+  return dialog;
 }
 
 DesktopApp::~DesktopApp() {
@@ -105,8 +111,7 @@ void DesktopApp::ShowWindow(const std::string& window_name, bool as_sheet) {
   Window* window = program_.FindOpenWindow(window_name);
   if (!window) return;
   if (WindowDialog* shown = DialogFor(window_name)) shown->CloseFromProgram();
-  auto* dialog = new WindowDialog(*window, as_sheet ? main_view_.get() : nullptr);
-  dialogs_[window_name] = dialog;
+  WindowDialog* dialog = MakeDialog(*window, as_sheet);
   dialog->show();
   // The sheet takes the keyboard: the main window is blocked while it shows, and
   // the abort chord of the loop under it must reach the program.

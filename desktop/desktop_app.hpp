@@ -54,6 +54,9 @@ class DesktopApp final : public WindowHost {
   // true (the tape), and hides when it turns false.
   void OnWindowMade(Window& window);
   void ShowOwnWindow(Window& window);
+  // A dialog for the window, kept by name; a window of its own closes through the
+  // program when the user closes it.
+  WindowDialog* MakeDialog(Window& window, bool as_sheet);
 
   QtPlatform platform_;
   Program program_;
