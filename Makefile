@@ -17,7 +17,8 @@ PACKAGES := g++ make cmake ninja-build pkgconf libgtest-dev libgmock-dev libbenc
             pulseaudio pulseaudio-utils sox espeak-ng speech-dispatcher-espeak-ng \
             speech-dispatcher-audio-plugins python3 \
             libpugixml-dev nginx \
-            desktop-file-utils appstream lintian dpkg-dev fakeroot
+            desktop-file-utils appstream lintian dpkg-dev fakeroot \
+            dbus at-spi2-core python3-pyatspi
 
 SAN ?= 0
 PREFIX ?= /usr/local

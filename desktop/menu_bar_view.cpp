@@ -70,6 +70,7 @@ void MenuBarView::Rebuild() {
   for (const Menu& menu : app_.GetMenuBar().Menus()) {
     QMenu* qmenu = bar_.addMenu(MenuTitle(menu.text, mnemonics));
     qmenu->setObjectName(QString::fromStdString(menu.name));
+    qmenu->setAccessibleName(QString::fromStdString(menu.text));
     qmenu->installEventFilter(this);
     connect(qmenu, &QMenu::aboutToShow, this, [this] { app_.EnableMenuItems(); });
     for (const MenuItem& item : menu.items) {

@@ -15,8 +15,9 @@ WindowDialog::WindowDialog(Window& window, QWidget* sheet_parent)
   setObjectName(QString::fromStdString(window.Name()));
   setWindowTitle(QString::fromStdString(window.Title()));
   if (sheet_) {
-    // A sheet without a title of its own is named after the window it belongs to.
-    if (window.Title().empty()) setWindowTitle(sheet_parent->window()->windowTitle());
+    // A sheet's own title is never seen ("Untitled" as often as not): the frame the
+    // window manager draws names the window the sheet belongs to.
+    setWindowTitle(sheet_parent->window()->windowTitle());
     // No close button: the program closes the sheet when its work is done.
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     setWindowModality(Qt::WindowModal);
