@@ -74,7 +74,7 @@ void CalcWindow::ButtonSciNotationAction() {
 }
 
 std::string CalcWindow::Padded(double x) const {
-  const std::string s = CStr(x);
+  std::string s = CStr(x);
   if (s.empty()) return s;
   const int length = Len(s);
   if (length >= 14) return s;

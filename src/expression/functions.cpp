@@ -107,7 +107,7 @@ double IntegerDivide(double x, double y) {
   const std::int64_t b = WholePart(y);
   // The one quotient that leaves the 64-bit range.
   if (b == -1) return -static_cast<double>(a);
-  return static_cast<double>(a / b);
+  return static_cast<double>(a / b);  // NOLINT(bugprone-integer-division): whole by intent
 }
 
 double Modulo(double x, double y) {

@@ -45,8 +45,8 @@ enum HTTPLimitError : std::int32_t {
 
 class BasicHTTP final : private SocketListener {
  public:
-  static constexpr std::size_t kMaxHeaderBytes = 256 * 1024;
-  static constexpr std::size_t kMaxPageBytes = 64 * 1024 * 1024;
+  static constexpr std::size_t kMaxHeaderBytes = std::size_t{256} * 1024;
+  static constexpr std::size_t kMaxPageBytes = std::size_t{64} * 1024 * 1024;
 
   BasicHTTP(SocketFactory& sockets, const Clock& clock);
   ~BasicHTTP() override;

@@ -77,7 +77,7 @@ std::string StrOf(F x) {
   std::string out;
   if (ExceptionalText(x, out)) return out;
   const Digits g = ShortestDigits(std::fabs(x));
-  out.reserve(static_cast<std::size_t>(g.count + std::abs(g.exp10) + 4));
+  out.reserve(static_cast<std::size_t>(g.count) + static_cast<std::size_t>(std::abs(g.exp10)) + 4);
   if (x < 0) out += '-';
   AppendPlain(out, g, ".");
   return out;

@@ -25,9 +25,9 @@ namespace {
 
 // One read per socket and pump round: small enough to keep a download's memory
 // flat, large enough for loopback speed.
-constexpr std::size_t kReadChunk = 64 * 1024;
+constexpr std::size_t kReadChunk = std::size_t{64} * 1024;
 // Past this many unread bytes a socket stops reading until its listener takes some.
-constexpr std::size_t kHighWater = 1024 * 1024;
+constexpr std::size_t kHighWater = std::size_t{1024} * 1024;
 
 int MapErrno(int err) {
   switch (err) {
