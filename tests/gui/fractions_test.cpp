@@ -1,5 +1,5 @@
 // The Fractions tab on screen: keys typed into its real fields pass its key
-// filter, Calculate fills the result fields, the message box, the mode popup.
+// filter, the mode popup shows each page and its buttons fill the result fields.
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
@@ -42,25 +42,6 @@ class FractionsTest : public GuiSuite {
     f_->Key(Qt::Key_Backspace);
     QCOMPARE(Text("numtop1"), QStringLiteral("-,.-"));
     QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
-  }
-
-  void calculateFillsTheResultFields() {
-    OpenTab();
-    TypeInto("whole1", QStringLiteral("2"));
-    TypeInto("numtop1", QStringLiteral("1"));
-    TypeInto("numbottom1", QStringLiteral("3"));
-    TypeInto("numtop2", QStringLiteral("3"));
-    TypeInto("numbottom2", QStringLiteral("4"));
-    auto* op = qobject_cast<QComboBox*>(f_->Widget("PopupMenu3"));
-    QVERIFY(op);
-    QCOMPARE(op->currentText(), QStringLiteral("+"));
-    f_->Click("FractionCalculateButton");
-    QCOMPARE(Text("ResultWhole"), QStringLiteral("3"));
-    QCOMPARE(Text("ResultNumTop"), QStringLiteral("1"));
-    QCOMPARE(Text("ResultNumBottom"), QStringLiteral("12"));
-    f_->Click("FractionClearButton");
-    QCOMPARE(Text("whole1"), QString());
-    QCOMPARE(Text("ResultNumBottom"), QString());
   }
 
   void modePopupShowsEachPage() {

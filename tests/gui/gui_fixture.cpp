@@ -8,6 +8,7 @@
 #include "runtime/posix/posix_file_system.hpp"
 #include "settings/preference_keys.hpp"
 #include "window_canvas.hpp"
+#include "window_dialog.hpp"
 
 namespace tessarine::desktop::testing {
 
@@ -69,6 +70,13 @@ QWidget* GuiFixture::Widget(const char* name, int index) {
   if (!widget)
     QTest::qFail(qPrintable(QStringLiteral("no widget for %1").arg(name)), __FILE__, __LINE__);
   return widget;
+}
+
+QWidget* GuiFixture::FindDialogWidget(const char* window, const char* control, int index) {
+  WindowDialog* dialog = App().DialogFor(window);
+  Window* model = App().GetProgram().Windows().FindOpen(window);
+  Control* item = model ? model->FindControl(control, index) : nullptr;
+  return dialog && item ? dialog->Canvas().WidgetFor(*item) : nullptr;
 }
 
 QString GuiFixture::DisplayText() {

@@ -39,6 +39,14 @@ class GuiFixture {
   // The widget of a main window control; fails the test (returns nullptr) when
   // there is none.
   QWidget* Widget(const char* name, int index = -1);
+  // The widget of a control of an open dialog window (a sheet, the preferences, the
+  // About box), of class W; fails the test (returns nullptr) when there is none.
+  template <class W = QWidget>
+  W* DialogWidget(const char* window, const char* control, int index = -1) {
+    W* widget = qobject_cast<W*>(FindDialogWidget(window, control, index));
+    if (!widget) QTest::qFail(control, __FILE__, __LINE__);
+    return widget;
+  }
   // What the Display label shows.
   QString DisplayText();
   // A left click in the middle of the control's widget.
@@ -56,6 +64,8 @@ class GuiFixture {
   bool NoUnclaimedDialogs() const { return dialogs_.isEmpty(); }
 
  private:
+  QWidget* FindDialogWidget(const char* window, const char* control, int index);
+
   QTemporaryDir preferences_;
   std::unique_ptr<DesktopApp> app_;
   QTimer watchdog_;

@@ -19,12 +19,7 @@ class HelpTest : public GuiSuite {
 
   template <class W>
   W* AboutWidget(const char* control) {
-    WindowDialog* dialog = f_->App().DialogFor("AboutWindow");
-    Window* model = f_->App().GetProgram().Windows().FindOpen("AboutWindow");
-    Control* item = model ? model->FindControl(control) : nullptr;
-    W* widget = dialog && item ? qobject_cast<W*>(dialog->Canvas().WidgetFor(*item)) : nullptr;
-    if (!widget) QTest::qFail(control, __FILE__, __LINE__);
-    return widget;
+    return f_->DialogWidget<W>("AboutWindow", control);
   }
 
  private slots:

@@ -22,12 +22,7 @@ class PreferencesTest : public GuiSuite {
 
   template <class W>
   W* Widget(const char* control) {
-    WindowDialog* dialog = Preferences();
-    Window* model = f_->App().GetProgram().Windows().FindOpen("PreferencesWindow");
-    Control* item = model ? model->FindControl(control) : nullptr;
-    W* widget = dialog && item ? qobject_cast<W*>(dialog->Canvas().WidgetFor(*item)) : nullptr;
-    if (!widget) QTest::qFail(control, __FILE__, __LINE__);
-    return widget;
+    return f_->DialogWidget<W>("PreferencesWindow", control);
   }
 
   void Menu(const char* item) { f_->App().GetProgram().App().MenuCommand(item); }

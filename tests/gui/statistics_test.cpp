@@ -31,23 +31,6 @@ class StatisticsTest : public GuiSuite {
     f_->Calc().Get("CellNumberPopUp").SetListIndex(0);
   }
 
-  WindowDialog* Sheet(const char* name) {
-    WindowDialog* sheet = f_->App().DialogFor(name);
-    if (!sheet) QTest::qFail(name, __FILE__, __LINE__);
-    return sheet;
-  }
-
-  template <class W>
-  W* SheetWidget(const char* window, const char* control, int index = -1) {
-    WindowDialog* sheet = Sheet(window);
-    if (!sheet) return nullptr;
-    Window* model = f_->App().GetProgram().Windows().FindOpen(window);
-    Control* item = model ? model->FindControl(control, index) : nullptr;
-    W* widget = item ? qobject_cast<W*>(sheet->Canvas().WidgetFor(*item)) : nullptr;
-    if (!widget) QTest::qFail(control, __FILE__, __LINE__);
-    return widget;
-  }
-
   void ShowComputation(int row) {
     f_->Calc().Get("ComputePopUp").SetListIndex(row);
     f_->Click("ShowComputationButton");
@@ -67,20 +50,22 @@ class StatisticsTest : public GuiSuite {
   void anovaErrorBringsAFreshSheetBack() {
     FeedSamples();
     ShowComputation(1);
-    QTest::mouseClick(SheetWidget<QPushButton>("ANOVAWindow", "CalculateButton"), Qt::LeftButton);
-    QCOMPARE(SheetWidget<QLabel>("ANOVAWindow", "ANOVAResultText")->text(),
-             QStringLiteral("F (2,6) = 3.000, p = 0.1250"));
-    QTest::mouseClick(SheetWidget<QCheckBox>("ANOVAWindow", "SampleNumberCheckBox", 2),
+    QTest::mouseClick(f_->DialogWidget<QPushButton>("ANOVAWindow", "CalculateButton"),
                       Qt::LeftButton);
-    QTest::mouseClick(SheetWidget<QPushButton>("ANOVAWindow", "CalculateButton"), Qt::LeftButton);
+    QCOMPARE(f_->DialogWidget<QLabel>("ANOVAWindow", "ANOVAResultText")->text(),
+             QStringLiteral("F (2,6) = 3.000, p = 0.1250"));
+    QTest::mouseClick(f_->DialogWidget<QCheckBox>("ANOVAWindow", "SampleNumberCheckBox", 2),
+                      Qt::LeftButton);
+    QTest::mouseClick(f_->DialogWidget<QPushButton>("ANOVAWindow", "CalculateButton"),
+                      Qt::LeftButton);
     QTRY_VERIFY(!f_->App().DialogFor("ANOVAWindow"));
-    QVERIFY(SheetWidget<QLabel>("StatsErrorWindow", "ErrorText")
+    QVERIFY(f_->DialogWidget<QLabel>("StatsErrorWindow", "ErrorText")
                 ->text()
                 .startsWith(QStringLiteral("User Error. You must select three")));
-    QTest::mouseClick(SheetWidget<QPushButton>("StatsErrorWindow", "InputErrorCloseButton"),
+    QTest::mouseClick(f_->DialogWidget<QPushButton>("StatsErrorWindow", "InputErrorCloseButton"),
                       Qt::LeftButton);
     QTRY_VERIFY(f_->App().DialogFor("ANOVAWindow"));
-    QVERIFY(SheetWidget<QCheckBox>("ANOVAWindow", "SampleNumberCheckBox", 2)->isChecked());
+    QVERIFY(f_->DialogWidget<QCheckBox>("ANOVAWindow", "SampleNumberCheckBox", 2)->isChecked());
   }
 
   void probabilityFromTypedFields() {
@@ -89,14 +74,14 @@ class StatisticsTest : public GuiSuite {
     const char* fields[] = {"FInputField", "dfnInputField", "dfdInputField"};
     const char* typed[] = {"1", "1", "1"};
     for (int i = 0; i < 3; ++i) {
-      auto* field = SheetWidget<QLineEdit>("ProbabilityWindow", fields[i]);
+      auto* field = f_->DialogWidget<QLineEdit>("ProbabilityWindow", fields[i]);
       QVERIFY(field);
       QTest::keyClicks(field, QString::fromLatin1(typed[i]));
     }
-    QVERIFY(SheetWidget<QPushButton>("ProbabilityWindow", "CalculateButton")->isEnabled());
-    QTest::mouseClick(SheetWidget<QPushButton>("ProbabilityWindow", "CalculateButton"),
+    QVERIFY(f_->DialogWidget<QPushButton>("ProbabilityWindow", "CalculateButton")->isEnabled());
+    QTest::mouseClick(f_->DialogWidget<QPushButton>("ProbabilityWindow", "CalculateButton"),
                       Qt::LeftButton);
-    QCOMPARE(SheetWidget<QLabel>("ProbabilityWindow", "ProbabilityOutput")->text(),
+    QCOMPARE(f_->DialogWidget<QLabel>("ProbabilityWindow", "ProbabilityOutput")->text(),
              QStringLiteral("p = 0.50000000"));
   }
 };

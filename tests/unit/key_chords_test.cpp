@@ -1,6 +1,6 @@
-// Chords of docs/keyboard.md that the driver's chord script does not type, or types
-// without a way to see that they never reach the map, translated as both front ends
-// translate them.
+// The chords of docs/keyboard.md, translated as both front ends translate them: the
+// text the keyboard map receives and whether control is down, or nothing at all. What
+// each text does is the keyboard chain scripts' to check.
 #include "shell/key_chords.hpp"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ namespace {
 
 constexpr ChordModifiers kNone{}, kCtrl{true, false, false}, kAlt{false, true, false},
     kShift{false, false, true}, kAltShift{false, true, true}, kCtrlShift{true, false, true},
-    kCtrlAltShift{true, true, true};
+    kCtrlAlt{true, true, false}, kCtrlAltShift{true, true, true};
 
 struct ChordCase {
   const char* name;
@@ -34,6 +34,16 @@ constexpr ChordCase kChords[] = {
     {"Qt's keypad Enter", "Enter", kNone, "\x03", false},
     {"Qt's Esc, any case", "esc", kNone, "\x1b", false},
     {"Qt's Backspace", "Backspace", kNone, "\b", false},
+    {"keypad plus", "KP_Add", kNone, "+", false},
+    {"keypad times", "KP_Multiply", kNone, "*", false},
+    {"minus by name", "minus", kNone, "-", false},
+    {"equal by name", "equal", kNone, "=", false},
+    {"Return", "Return", kNone, "\r", false},
+    {"keypad Enter", "KP_Enter", kNone, "\x03", false},
+    {"BackSpace", "BackSpace", kNone, "\b", false},
+    {"Escape", "Escape", kNone, "\x1b", false},
+    {"space by name", "space", kNone, " ", false},
+    {"shifted 1 as the layout types it", "!", kShift, "!", false},
     // Keys with no text, and bare modifiers.
     {"function key", "F5", kNone, nullptr, false},
     {"arrow", "Left", kNone, nullptr, false},
@@ -42,8 +52,14 @@ constexpr ChordCase kChords[] = {
     {"empty", "", kNone, nullptr, false},
     // Ctrl with the digits: the digit's text with control down.
     {"ctrl keypad 2", "KP_2", kCtrl, "2", true},
+    {"ctrl 1", "1", kCtrl, "1", true},
+    {"ctrl 4, a digit with no control row", "4", kCtrl, "4", true},
+    {"ctrl period, the abort chord", "period", kCtrl, ".", true},
     // Ctrl with letters: the control code; the menus keep theirs.
     {"ctrl A", "a", kCtrl, "\x01", true},
+    {"ctrl P", "p", kCtrl, "\x10", true},
+    {"ctrl R", "r", kCtrl, "\x12", true},
+    {"ctrl Y", "y", kCtrl, "\x19", true},
     {"ctrl L", "l", kCtrl, "\x0c", true},
     {"ctrl E", "e", kCtrl, "\x05", true},
     {"ctrl N", "n", kCtrl, "\x0e", true},
@@ -53,6 +69,7 @@ constexpr ChordCase kChords[] = {
     {"ctrl H", "h", kCtrl, "\b", true},
     {"ctrl M", "m", kCtrl, "\r", true},
     {"ctrl hyphen by character", "-", kCtrl, "\x1f", true},
+    {"ctrl minus by name", "minus", kCtrl, "\x1f", true},
     {"ctrl underscore", "underscore", kCtrlShift, "\x1f", true},
     {"ctrl C: Copy", "c", kCtrl, nullptr, false},
     {"ctrl V: Paste", "v", kCtrl, nullptr, false},
@@ -63,7 +80,12 @@ constexpr ChordCase kChords[] = {
     {"ctrl shift Z", "Z", kCtrlShift, nullptr, false},
     {"ctrl shift U: Check for Updates", "U", kCtrlShift, nullptr, false},
     // Alt: the Option layer.
+    {"alt P", "p", kAlt, "π", false},
+    {"alt 2", "2", kAlt, "™", false},
     {"alt 3", "3", kAlt, "£", false},
+    {"alt S", "s", kAlt, "ß", false},
+    {"alt D", "d", kAlt, "¶", false},
+    {"ctrl alt S: hyperbolic sine", "s", kCtrlAlt, "ß", true},
     {"alt Y", "y", kAlt, "¥", false},
     {"alt C", "c", kAlt, "ç", false},
     {"alt T", "t", kAlt, "†", false},

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <map>
 #include <string>
 
 #include "calculator/calc_window.hpp"
@@ -22,38 +23,12 @@ class KeypadTest : public ::testing::Test {
   CalcWindow& W() { return program.GetCalcWindow(); }
   // Presses keys by their signs: digits, ".", "+", "-", "x", "/", "=", "%", "C".
   void Keys(const std::string& keys) {
+    static const std::map<char, std::string> kNames = {
+        {'.', "Decimal"}, {'+', "Plus"},  {'-', "Minus"},   {'x', "Times"},
+        {'/', "Divide"},  {'=', "Equal"}, {'%', "Percent"}, {'C', "Clear"}};
     for (char key : keys) {
-      std::string name;
-      switch (key) {
-        case '.':
-          name = "ButtonDecimal";
-          break;
-        case '+':
-          name = "ButtonPlus";
-          break;
-        case '-':
-          name = "ButtonMinus";
-          break;
-        case 'x':
-          name = "ButtonTimes";
-          break;
-        case '/':
-          name = "ButtonDivide";
-          break;
-        case '=':
-          name = "ButtonEqual";
-          break;
-        case '%':
-          name = "ButtonPercent";
-          break;
-        case 'C':
-          name = "ButtonClear";
-          break;
-        default:
-          name = std::string("Button") + key;
-          break;
-      }
-      W().Get(name).Click();
+      const auto named = kNames.find(key);
+      W().Get("Button" + (named == kNames.end() ? std::string(1, key) : named->second)).Click();
     }
   }
   // What a two-operand function key does: it arms its function with the value on
