@@ -5,7 +5,6 @@
 #include <QAudioSink>
 #include <QIODevice>
 #include <QMediaDevices>
-#include <cstdio>
 #include <vector>
 
 namespace tessarine::desktop {
@@ -43,11 +42,7 @@ bool AudioOutput::Open() {
   if (now < next_open_) return false;
   next_open_ = now + kRetryAfter;
   const QAudioDevice device = QMediaDevices::defaultAudioOutput();
-  if (device.isNull()) {
-    if (!warned_) std::fputs("tessarine: no audio output, the keys are silent\n", stderr);
-    warned_ = true;
-    return false;
-  }
+  if (device.isNull()) return false;  // the audio library has said so once already
   QAudioFormat format;
   format.setSampleRate(kRate);
   format.setChannelCount(1);
@@ -60,7 +55,6 @@ bool AudioOutput::Open() {
     Close();
     return false;
   }
-  warned_ = false;  // a device that goes away later is told once more
   return true;
 }
 

@@ -41,7 +41,6 @@ class AudioOutput {
   QTimer feed_;                  // tops the stream up while a sound plays
   QTimer idle_;                  // pauses the stream after a quiet while
   std::chrono::steady_clock::time_point next_open_{};
-  bool warned_ = false;
 };
 
 }  // namespace tessarine::desktop
