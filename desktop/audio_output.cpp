@@ -7,6 +7,8 @@
 #include <QMediaDevices>
 #include <vector>
 
+#include "audio_server_probe.hpp"
+
 namespace tessarine::desktop {
 
 namespace {
@@ -30,17 +32,27 @@ AudioOutput::AudioOutput() {
   idle_.setSingleShot(true);
   idle_.setInterval(kIdleAfter);
   QObject::connect(&idle_, &QTimer::timeout, [this] { Suspend(); });
+  // The stream is opened again in the background, so that no key waits for it.
+  retry_.setInterval(kRetryAfter);
+  QObject::connect(&retry_, &QTimer::timeout, [this] {
+    if (sink_ && sink_->state() == QAudio::StoppedState) Close();
+    if (Open()) retry_.stop();
+  });
 }
 
 AudioOutput::~AudioOutput() {
+  retry_.stop();
   Close();
 }
 
 bool AudioOutput::Open() {
   if (sink_) return true;
+  if (!retry_.isActive()) retry_.start();
   const auto now = std::chrono::steady_clock::now();
   if (now < next_open_) return false;
   next_open_ = now + kRetryAfter;
+  if (!engaged_ && !SoundServerReachable()) return false;
+  engaged_ = true;
   const QAudioDevice device = QMediaDevices::defaultAudioOutput();
   if (device.isNull()) return false;  // the audio library has said so once already
   QAudioFormat format;
@@ -50,11 +62,17 @@ bool AudioOutput::Open() {
   sink_ = std::make_unique<QAudioSink>(device, format);
   sink_->setBufferSize(format.bytesForDuration(
       std::chrono::duration_cast<std::chrono::microseconds>(kBuffer).count()));
+  // A stream the server drops is replaced without waiting for a key.
+  QObject::connect(sink_.get(), &QAudioSink::stateChanged, &retry_, [this](QAudio::State state) {
+    if (state == QAudio::StoppedState) retry_.start();
+  });
   stream_ = sink_->start();
   if (!stream_ || sink_->error() != QAudio::NoError) {
     Close();
     return false;
   }
+  retry_.stop();
+  idle_.start();
   return true;
 }
 
@@ -80,6 +98,7 @@ void AudioOutput::Feed() {
   if (!sink_) return;
   if (sink_->state() == QAudio::StoppedState) {  // the sound server went away
     Close();
+    retry_.start();
     return;
   }
   // A stream the server has dropped has no free space (-1): nothing is written to it.

@@ -40,7 +40,9 @@ class AudioOutput {
   QIODevice* stream_ = nullptr;  // the sink's, written in push mode
   QTimer feed_;                  // tops the stream up while a sound plays
   QTimer idle_;                  // pauses the stream after a quiet while
+  QTimer retry_;                 // opens the stream while there is none
   std::chrono::steady_clock::time_point next_open_{};
+  bool engaged_ = false;  // the audio library has looked for the server
 };
 
 }  // namespace tessarine::desktop

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "../../desktop/audio_clip.hpp"
+#include "../../desktop/audio_server_probe.hpp"
 
 namespace tessarine::desktop {
 namespace {
@@ -131,6 +132,39 @@ TEST(AudioMixer, SumsWhatPlays) {
   EXPECT_EQ(out[0], 32767) << "clipped, not wrapped";
   mixer.Clear();
   EXPECT_FALSE(mixer.Playing());
+}
+
+TEST(AudioServer, SocketsToTry) {
+  using P = std::vector<std::string>;
+  struct Row {
+    const char* name;
+    const char* server;
+    const char* runtime;
+    P paths;
+    bool unknown;
+  };
+  const std::vector<Row> rows = {
+      {"the user's server",
+       nullptr,
+       "/run/user/7",
+       {"/run/user/7/pulse/native", "/run/pulse/native"},
+       false},
+      {"an empty variable is no variable",
+       "",
+       "/r",
+       {"/r/pulse/native", "/run/pulse/native"},
+       false},
+      {"a socket named", "unix:/tmp/p.sock", "/r", {"/tmp/p.sock"}, false},
+      {"a bare path and a machine's prefix", "/a {0123abcd}unix:/b", "/r", {"/a", "/b"}, false},
+      {"a network address", "tcp:host:4713", "/r", {}, true},
+      {"a host name beside a socket", "unix:/a otherhost", "/r", {"/a"}, true},
+      {"no runtime folder", nullptr, nullptr, {}, true},
+  };
+  for (const Row& row : rows) {
+    bool unknown = !row.unknown;
+    EXPECT_EQ(SoundServerSockets(row.server, row.runtime, unknown), row.paths) << row.name;
+    EXPECT_EQ(unknown, row.unknown) << row.name;
+  }
 }
 
 }  // namespace
