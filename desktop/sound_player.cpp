@@ -1,11 +1,18 @@
 #include "sound_player.hpp"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
-#include <QSoundEffect>
-#include <QUrl>
+#include <string_view>
+
+#include "audio_clip.hpp"
 
 namespace tessarine::desktop {
+
+namespace {
+// Below full scale, so that two sounds at once rarely clip.
+constexpr float kVolume = 0.6f;
+}  // namespace
 
 SoundPlayer::SoundPlayer(QString folder) : folder_(std::move(folder)) {}
 
@@ -14,22 +21,26 @@ SoundPlayer::~SoundPlayer() = default;
 void SoundPlayer::Preload() {
   const QStringList files = QDir(folder_).entryList({QStringLiteral("*.wav")}, QDir::Files);
   for (const QString& file : files) Load(QFileInfo(file).completeBaseName().toStdString());
+  output_.Open();
 }
 
-QSoundEffect* SoundPlayer::Load(const std::string& name) {
-  auto& effect = effects_[name];
-  if (!effect) {
-    const QString path = QDir(folder_).filePath(QString::fromStdString(name) + ".wav");
-    if (!QFileInfo::exists(path)) return nullptr;  // a missing file is silence, not a fault
-    effect = std::make_unique<QSoundEffect>();
-    effect->setSource(QUrl::fromLocalFile(path));
-    effect->setVolume(0.6f);
-  }
-  return effect.get();
+AudioMixer::Samples SoundPlayer::Load(const std::string& name) {
+  const auto found = sounds_.find(name);
+  if (found != sounds_.end()) return found->second;
+  AudioMixer::Samples& sound = sounds_[name];
+  // A missing or unreadable file is silence, not a fault.
+  QFile file(QDir(folder_).filePath(QString::fromStdString(name) + ".wav"));
+  if (!file.open(QIODevice::ReadOnly)) return sound;
+  const QByteArray bytes = file.readAll();
+  if (const auto clip =
+          ReadWavClip(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size()))))
+    sound = std::make_shared<const std::vector<std::int16_t>>(
+        Resampled(*clip, AudioOutput::kRate).samples);
+  return sound;
 }
 
 void SoundPlayer::Play(const std::string& name) {
-  if (QSoundEffect* effect = Load(name)) effect->play();  // plays once loaded when it is not yet
+  if (AudioMixer::Samples sound = Load(name)) output_.Play(std::move(sound), kVolume);
 }
 
 }  // namespace tessarine::desktop

@@ -1,15 +1,16 @@
 // SoundPlayer: the eleven feedback sounds, played without waiting. Preload reads
-// every sound of the folder ahead of the first key, so that no key waits for a file
-// to load; a sound not preloaded is loaded the first time it plays. Sounds are kept
-// for the life of the program; with no audio device the program goes on silently.
+// every sound of the folder and opens the audio stream ahead of the first key, so
+// that no key waits for a file or a stream; a sound not preloaded is read the first
+// time it plays. Sounds are kept for the life of the program; with no audio device
+// the program goes on silently.
 #pragma once
 
 #include <QString>
 #include <map>
-#include <memory>
 #include <string>
 
-class QSoundEffect;
+#include "audio_mixer.hpp"
+#include "audio_output.hpp"
 
 namespace tessarine::desktop {
 
@@ -23,10 +24,11 @@ class SoundPlayer {
   void Play(const std::string& name);
 
  private:
-  QSoundEffect* Load(const std::string& name);
+  AudioMixer::Samples Load(const std::string& name);
 
   QString folder_;
-  std::map<std::string, std::unique_ptr<QSoundEffect>> effects_;
+  std::map<std::string, AudioMixer::Samples> sounds_;  // null: no such sound
+  AudioOutput output_;
 };
 
 }  // namespace tessarine::desktop

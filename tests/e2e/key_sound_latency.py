@@ -2,16 +2,23 @@
 """Key-to-sound latency: presses a key on the X display through XTest and reads the
 sound server's monitor of the sink as it comes, timestamping both on one clock.
 
-  key_sound_latency.py --monitor SOURCE [--key 7] [--reset-key c] [--count 20]
-                       [--quiet-ms 400]
+  key_sound_latency.py --monitor SOURCE [--key 7 | --click X,Y] [--reset-key c]
+                       [--count 20] [--quiet-ms 400]
+
+--key presses a key of the keyboard; --click presses and releases the left mouse
+button at a point of the screen (a key of the keypad drawn there), timed from the
+press.
 
 Before each press it types the reset key (one that must stay silent, so that the
 digits do not run past the display's length) and lets 300 ms pass.
 
 Before each press it listens for quiet-ms and keeps the loudest sample heard (the
 "before" level). After the press, the first sample above the threshold is the
-onset: its time is the arrival time of its chunk less the samples that follow it
-in the chunk. Prints one line per press and a summary line:
+onset: its time is the arrival time of its chunk, the moment it is known that the
+server has mixed it. (The chunk's samples do not stand for the time before their
+arrival: the server mixes ahead of the sink's clock, by up to the sink's latency,
+which a real sound card adds before the sample is heard.) Prints one line per
+press and a summary line:
   latency_ms median=... min=... max=... heard=N/COUNT before_peak=...
 """
 import argparse
@@ -36,6 +43,10 @@ def open_x():
     x11.XKeysymToKeycode.argtypes = [ctypes.c_void_p, ctypes.c_ulong]
     x11.XFlush.argtypes = [ctypes.c_void_p]
     xtst.XTestFakeKeyEvent.argtypes = [ctypes.c_void_p, ctypes.c_uint, ctypes.c_int, ctypes.c_ulong]
+    xtst.XTestFakeButtonEvent.argtypes = [ctypes.c_void_p, ctypes.c_uint, ctypes.c_int,
+                                          ctypes.c_ulong]
+    xtst.XTestFakeMotionEvent.argtypes = [ctypes.c_void_p, ctypes.c_int, ctypes.c_int, ctypes.c_int,
+                                          ctypes.c_ulong]
     display = x11.XOpenDisplay(None)
     if not display:
         sys.exit("no X display")
@@ -73,6 +84,7 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--monitor", required=True)
     parser.add_argument("--key", default="7")
+    parser.add_argument("--click", help="X,Y on the screen, instead of a key")
     parser.add_argument("--reset-key", default="c")
     parser.add_argument("--count", type=int, default=20)
     parser.add_argument("--quiet-ms", type=int, default=400)
@@ -82,6 +94,20 @@ def main():
     keycode = x11.XKeysymToKeycode(display, x11.XStringToKeysym(args.key.encode()))
     reset = x11.XKeysymToKeycode(display, x11.XStringToKeysym(args.reset_key.encode()))
     limit = int(THRESHOLD * 32768)
+    if args.click:
+        x, y = (int(v) for v in args.click.split(","))
+        xtst.XTestFakeMotionEvent(display, -1, x, y, 0)
+        x11.XFlush(display)
+
+    def strike():
+        if args.click:
+            xtst.XTestFakeButtonEvent(display, 1, 1, 0)
+            xtst.XTestFakeButtonEvent(display, 1, 0, 0)
+        else:
+            xtst.XTestFakeKeyEvent(display, keycode, 1, 0)
+            xtst.XTestFakeKeyEvent(display, keycode, 0, 0)
+        x11.XFlush(display)
+
     monitor = Monitor(args.monitor)
     latencies, before_peak = [], 0
     try:
@@ -98,18 +124,14 @@ def main():
                 if samples is not None and len(samples):
                     before_peak = max(before_peak, max(abs(s) for s in samples))
             pressed = time.monotonic()
-            xtst.XTestFakeKeyEvent(display, keycode, 1, 0)
-            xtst.XTestFakeKeyEvent(display, keycode, 0, 0)
-            x11.XFlush(display)
+            strike()
             onset = None
             while onset is None and time.monotonic() - pressed < 1.0:
                 samples, arrived = monitor.read(0.05)
                 if samples is None:
                     continue
-                for i, s in enumerate(samples):
-                    if abs(s) > limit:
-                        onset = arrived - (len(samples) - i) / RATE
-                        break
+                if any(abs(s) > limit for s in samples):
+                    onset = arrived
             if onset is None:
                 print(f"press {press + 1}: nothing heard within 1 s")
             else:
