@@ -17,13 +17,12 @@
 # with a message.
 #
 # The run against a stalling server ("tessarine_stall"): before each such run
-# stalling_server.py listens where BUILD_DIR's program fetches its pages
-# (MAKER_SERVER, the build setting TESSARINE_MAKER_SERVER), accepting connections
-# and never answering, and the run's fresh HOME holds preferences with
-# "UpdateExchangeRates" and "CheckForUpdates" on, written by BUILD_DIR's
+# stalling_server.py listens on a free loopback port, accepting connections and
+# never answering; tessarine runs with "--server 127.0.0.1:PORT" (so that no other
+# program on the machine meets that server) and a fresh HOME holding preferences
+# with "UpdateExchangeRates" and "CheckForUpdates" on, written by BUILD_DIR's
 # tessarine-drive. The connections the server accepted are the last field of the
-# run's line. It is skipped with a message when the driver or python3 is missing
-# or the address is taken.
+# run's line. It is skipped with a message when the driver or python3 is missing.
 #
 # The programs run interleaved: one warm-up round that is not counted, then ROUNDS
 # rounds (15 unless told) in which every program runs once, the order turning by
@@ -63,7 +62,7 @@ shift $((OPTIND - 1))
 stall_pid=
 start_stalling_server() {
   rm -f "$work/stall.state"
-  python3 "$(dirname "$0")/stalling_server.py" "$stall_host" "$stall_port" "$work/stall.state" \
+  python3 "$(dirname "$0")/stalling_server.py" 127.0.0.1 "$work/stall.state" \
     2>> "$work/stall.log" &
   stall_pid=$!
   start_stalling_server_tries=0
@@ -85,13 +84,10 @@ stop_stalling_server() {
 }
 
 # Adds the run against a stalling server when everything it needs is there: the
-# preferences written once by the driver, the address free.
+# preferences written once by the driver, a server that listens.
 stall_config=
 stall_setup() {
   stall_driver=$(setting TESSARINE_DRIVE)
-  stall_server=$(setting MAKER_SERVER)
-  stall_host=${stall_server%:*}
-  stall_port=${stall_server##*:}
   if [ -z "$stall_driver" ] || [ ! -x "$stall_driver" ]; then
     echo "tessarine_stall: the driver tessarine-drive is not built; its column is skipped"
     return
@@ -100,11 +96,6 @@ stall_setup() {
     echo "tessarine_stall: python3 is missing; its column is skipped"
     return
   fi
-  case $stall_server in
-    *:*) ;;
-    *) echo "tessarine_stall: the maker's server \"$stall_server\" has no port; its column is skipped"
-       return ;;
-  esac
   printf 'setpref boolean UpdateExchangeRates true\nsetpref boolean CheckForUpdates true\n' \
     > "$work/stall.drive"
   if ! "$stall_driver" --prefs-dir "$work/stall-config/Tessarine" "$work/stall.drive" \
@@ -114,7 +105,7 @@ stall_setup() {
     return
   fi
   if ! start_stalling_server; then
-    echo "tessarine_stall: cannot listen on $stall_server; its column is skipped"
+    echo "tessarine_stall: the stalling server does not start; its column is skipped"
     cat "$work/stall.log"
     return
   fi
@@ -192,14 +183,16 @@ measure() {
     run_name=$2
     eval "run_path=\$path_$run_name"
     run_accepted=
+    set --
     if [ "$run_name" = tessarine_stall ]; then
       if ! start_stalling_server; then
         echo "$run_name: run skipped in round $run_round: the stalling server did not start" >&2
         return
       fi
       run_clean_config=$stall_config
+      set -- --server "127.0.0.1:$(cut -d ' ' -f 1 "$work/stall.state")"
     fi
-    run_line=$(run_clean "$probe" --settle 2000 -- "$run_path" 2>> "$programs_log")
+    run_line=$(run_clean "$probe" --settle 2000 -- "$run_path" "$@" 2>> "$programs_log")
     run_clean_config=
     if [ "$run_name" = tessarine_stall ]; then
       run_accepted=$(cut -d ' ' -f 2 "$work/stall.state")
@@ -229,7 +222,7 @@ measure() {
       eval "echo \"# \$name: \$path_$name\""
     done
     [ -z "$stall_config" ] ||
-      echo "# tessarine_stall: stalling server on $stall_host:$stall_port; last field: connections"
+      echo "# tessarine_stall: against a stalling server; last field: the connections it accepted"
   } > "$results"
   round=0
   while [ $round -le "$rounds" ]; do
