@@ -111,7 +111,8 @@ serve-stop:
 
 # After the micro-benchmarks comes the start-up benchmark (docs/benchmarks.md): time
 # to the main window and memory of tessarine, an empty Qt window, SpeedCrunch and
-# galculator under Xvfb, in STARTUP_ROUNDS interleaved rounds. Its packages are
+# galculator under Xvfb, in STARTUP_ROUNDS interleaved rounds; then the installed
+# program against the empty window alone. Its packages are
 # installed here only. If the full build fails (the desktop application in the
 # middle of a change), the benchmarks still run and tessarine is left out.
 BENCH_PACKAGES := xvfb xauth libxcb1-dev qt6-base-dev speedcrunch galculator
@@ -128,6 +129,10 @@ bench: deps
 	build-release/bench/tessarine_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true && \
 	bench/startup/run_startup_bench.sh -n $(STARTUP_ROUNDS) $$startup_args build-release; \
 	if [ -z "$$startup_args" ]; then \
+	  echo "The installed program (cmake --install into build-release/startup-install):"; \
+	  cmake --install build-release --prefix build-release/startup-install > /dev/null && \
+	  bench/startup/run_startup_bench.sh -b -n $(STARTUP_ROUNDS) -i build-release/startup-install \
+	    -o build-release/bench/startup/startup_results_installed.txt build-release; \
 	  tests/e2e/hear_keys.sh --latency-only build-release/desktop/tessarine \
 	    build-release/drive/tessarine-drive | tail -n 2 || true; \
 	fi

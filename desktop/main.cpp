@@ -1,5 +1,11 @@
 // tessarine: the desktop calculator.
+//
+//   tessarine [--server HOST:PORT]
+//
+// --server sends every request the program makes (rates, version page) to HOST:PORT
+// instead of the maker's server, as the driver's option of the same name does.
 #include <QApplication>
+#include <QStringList>
 #include <chrono>
 #include <clocale>
 #include <random>
@@ -17,6 +23,10 @@ int main(int argc, char** argv) {
       std::random_device{}() ^
       static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
   tessarine::desktop::DesktopApp calculator(seed);
+  const QStringList arguments = QCoreApplication::arguments();
+  const qsizetype server = arguments.indexOf(QStringLiteral("--server"));
+  if (server > 0 && server + 1 < arguments.size())
+    calculator.GetPlatform().platform().server_override = arguments[server + 1].toStdString();
   calculator.Start();
   return QApplication::exec();
 }

@@ -35,10 +35,14 @@ stop_xvfb() {
 # caller's environment: a fresh, empty HOME and XDG folders (so that no saved
 # settings count), no session bus, a plain PATH, LANG=C.UTF-8, QT_QPA_PLATFORM=xcb.
 # Standard input is empty; the command's output goes where the caller sends it.
+# When run_clean_config names a folder, its contents are copied into the fresh
+# XDG_CONFIG_HOME first (saved preferences for that run).
+run_clean_config=
 run_clean() {
   run_clean_home=$(mktemp -d "$work/home.XXXXXX")
   mkdir -p "$run_clean_home/.config" "$run_clean_home/.cache" "$run_clean_home/.local/share" \
            "$run_clean_home/runtime"
+  [ -z "$run_clean_config" ] || cp -R "$run_clean_config/." "$run_clean_home/.config/"
   chmod 700 "$run_clean_home/runtime"
   env -i PATH=/usr/local/bin:/usr/bin:/bin HOME="$run_clean_home" \
       XDG_CONFIG_HOME="$run_clean_home/.config" XDG_CACHE_HOME="$run_clean_home/.cache" \
