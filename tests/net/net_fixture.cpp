@@ -5,6 +5,7 @@
 namespace tessarine::testing {
 
 void NetFixture::Open(int server_port, bool update_rates, bool check_updates) {
+  program_.reset();  // a program opened before lives on its platform: it goes first
   platform_ = std::make_unique<HeadlessPlatform>(".", &files_);
   platform_->ConnectSockets(sockets_,
                             [this](int max_wait_ms) { return sockets_.Pump(max_wait_ms); });
