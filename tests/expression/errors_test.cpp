@@ -54,6 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CompileCase{"CommaOutsideCall", "(1,2)", K::kSyntax, 1, 13},
                     CompileCase{"ImplicitProduct", "2(3)", K::kSyntax, 1, 12},
                     CompileCase{"TextPlusNumber", "1) + (2", K::kTypeMismatch, 1, 14},
+                    CompileCase{"TextTimesText", "1) * Str(2", K::kTypeMismatch, 1, 14},
                     CompileCase{"StrOfText", "Str(1)", K::kTypeMismatch, 1, 7},
                     CompileCase{"PrintOfNumber", "1) + 0 + (1", K::kTypeMismatch, 1, 14},
                     CompileCase{"LineBreakInFormula", "1\n+2", K::kUnfinished, 1, 12},
