@@ -15,7 +15,6 @@ INSTANTIATE_TEST_SUITE_P(
         PrintCase{"Acos", "Acos(-1)", "3.141592653589793"},
         PrintCase{"AcosOutside", "acos(1.5)", "NAN"},
         PrintCase{"Asin", "asin(1)", "1.5707963267948966"},
-        PrintCase{"AsinOutside", "asin(-2)", "NAN"},
         PrintCase{"Atan", "atan(1)", "0.7853981633974483"},
         PrintCase{"AtanOfInfinity", "atan(1/0)", "1.5707963267948966"},
         PrintCase{"Atan2YFirst", "atan2(1, -1)", "2.356194490192345"},
@@ -23,7 +22,7 @@ INSTANTIATE_TEST_SUITE_P(
         PrintCase{"CeilUp", "ceil(1.0000001)", "2"},
         PrintCase{"Cos", "cos(1)", "0.5403023058681398"},
         PrintCase{"Exp", "exp(1)", "2.718281828459045"},
-        PrintCase{"ExpOverflow", "exp(710)", "INF"}, PrintCase{"ExpUnderflow", "exp(-746)", "0"},
+        PrintCase{"ExpOverflow", "exp(710)", "INF"},
         PrintCase{"FloorNegative", "floor(-0.5)", "-1"}, PrintCase{"Floor", "FLOOR(2.999)", "2"},
         PrintCase{"LogIsNatural", "log(10)", "2.302585092994046"},
         PrintCase{"LogZero", "log(0)", "-INF"}, PrintCase{"LogNegative", "log(-1)", "NAN"},
@@ -35,10 +34,9 @@ INSTANTIATE_TEST_SUITE_P(
         PrintCase{"RoundTieAwayFromZero", "round(2.5)", "3"},
         PrintCase{"RoundNegativeTie", "round(-2.5)", "-3"},
         PrintCase{"RoundBelowHalf", "round(0.49999999999999994)", "0"},
-        PrintCase{"Sin", "sin(1)", "0.8414709848078965"}, PrintCase{"SinZero", "SIN(0)", "0"},
+        PrintCase{"Sin", "sin(1)", "0.8414709848078965"},
         PrintCase{"Sqrt", "sqrt(2)", "1.4142135623730951"},
-        PrintCase{"SqrtNegative", "sqrt(-1)", "NAN"},
-        PrintCase{"Tan", "tan(2)", "-2.185039863261519"}, PrintCase{"TanMixedCase", "TaN(0)", "0"}),
+        PrintCase{"Tan", "tan(2)", "-2.185039863261519"}),
     [](const testing::TestParamInfo<PrintCase>& info) { return std::string(info.param.name); });
 
 struct CountCase {

@@ -127,10 +127,6 @@ class ModesTest : public GuiSuite {
     QTRY_COMPARE(f_->Calc().Left(), view.geometry().x());
     QCOMPARE(f_->Calc().Top(), view.geometry().y());
     QVERIFY(f_->Calc().Left() >= 300 && f_->Calc().Top() >= 400);
-    const QRect before = view.geometry();
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
-    QCOMPARE(view.geometry().bottomLeft(), before.bottomLeft());
   }
 };
 

@@ -123,9 +123,6 @@ TEST(HttpClient, RepliesToAPlainGet) {
        {{"HTTP/1.1 200 OK\r\nContent-Type: text/plain; charset=x\r\nContent-Length: "
          "5\r\n\r\nhello"}},
        PageEvents(200, "text/plain", "hello")},
-      {"header_split_across_reads",
-       {{"HTTP/1.1 200 OK\r\nContent-", "Length: 5\r\n\r", "\nhel", "lo"}, 20},
-       PageEvents(200, "", "hello")},
       {"one_byte_at_a_time",
        {Bytes("HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nabc"), 1},
        PageEvents(200, "", "abc")},
@@ -377,12 +374,6 @@ TEST(HttpClient, FileModes) {
        [](BasicHTTP& h, auto& u, auto& f) { h.Download(u, f); },
        "old",
        "File application/x|0",
-       body},
-      {"download_until_close",
-       {{"HTTP/1.1 200 OK\r\n\r\n", body}, 5},
-       [](BasicHTTP& h, auto& u, auto& f) { h.Download(u, f); },
-       "",
-       "File |0",
        body},
       {"chunked_file_keeps_chunk_lines",
        {{"HTTP/1.1 200 OK\r\nContent-Type: a/b\r\nTransfer-Encoding: "

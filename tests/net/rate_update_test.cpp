@@ -110,7 +110,6 @@ TEST_F(RateUpdateTest, FailuresKeepTheTable) {
        "Cancel",
        "Connecting to server...",
        false},
-      {"stall", {Reply{{}, 0, End::kStall}}, "Cancel", "Connecting to server...", false},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);

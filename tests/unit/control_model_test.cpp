@@ -1,5 +1,7 @@
-// The control model: lookup by name, events raised by assignments and by the
-// user, change notification, and the fault barrier of the event dispatch.
+// The control model where the driver scripts don't look: lookup faults, events
+// raised by assignments and by the user, change notification, and a fault inside a
+// nested event. Radio arrays, timers, yields and the fault barrier itself run in
+// every script.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -56,19 +58,6 @@ TEST_F(ControlModelTest, AssignmentsRaiseTheirEventsOnlyOnChange) {
   EXPECT_EQ(popup.ListIndex(), 1);
 }
 
-TEST_F(ControlModelTest, RadioButtonsOfAnArrayExcludeEachOther) {
-  Control& rad = window.AddControl(Spec("Units", ControlKind::RadioButton, 0));
-  Control& deg = window.AddControl(Spec("Units", ControlKind::RadioButton, 1));
-  int actions = 0;
-  deg.events.Action = [&] { ++actions; };
-  rad.SetValue(true);
-  deg.Click();
-  deg.Click();  // already selected: no second action
-  EXPECT_FALSE(rad.IsDown());
-  EXPECT_TRUE(deg.IsDown());
-  EXPECT_EQ(actions, 1);
-}
-
 TEST_F(ControlModelTest, UserActionsOnADisabledControlDoNothing) {
   Control& key = window.AddControl(Spec("Key", ControlKind::CalcBevelButton));
   Control& box = window.AddControl(Spec("Box", ControlKind::CheckBox));
@@ -114,28 +103,6 @@ TEST_F(ControlModelTest, ObserversHearRealChangesOnly) {
   EXPECT_EQ(heard, (std::vector<Property>{Property::Text, Property::Enabled, Property::TextColor}));
 }
 
-TEST_F(ControlModelTest, AnUnhandledFaultIsReportedAndTheProgramGoesOn) {
-  Control& key = window.AddControl(Spec("Key", ControlKind::PushButton));
-  Control& list = window.AddControl(Spec("List", ControlKind::Listbox));
-  int after = 0;
-  key.events.Action = [&] {
-    list.SetRow(5, "nowhere");  // faults: the list has no rows
-    ++after;
-  };
-  key.Click();
-  auto events = headless.TakeEvents();
-  ASSERT_EQ(events.size(), 1u);
-  EXPECT_EQ(events[0].kind, "exception");
-  EXPECT_EQ(events[0].text, "OutOfBoundsException");
-  EXPECT_EQ(events[0].detail, "Key_Action");
-  EXPECT_EQ(after, 0);
-  key.events.Action = [&] { ++after; };
-  key.Click();
-  EXPECT_EQ(after, 1);
-  EXPECT_EQ(UnhandledExceptionMessage("NilObjectException"),
-            "An exception of class NilObjectException was not handled.");
-}
-
 TEST_F(ControlModelTest, AFaultInANestedEventReachesTheOuterHandler) {
   Control& key = window.AddControl(Spec("Key", ControlKind::PushButton));
   Control& field = window.AddControl(Spec("Field", ControlKind::TextField));
@@ -151,39 +118,6 @@ TEST_F(ControlModelTest, AFaultInANestedEventReachesTheOuterHandler) {
   EXPECT_EQ(events[0].text, "NilObjectException");
   EXPECT_EQ(events[0].detail, "Key_Action");
   EXPECT_FALSE(outer_went_on);
-}
-
-TEST_F(ControlModelTest, TimersFireOnVirtualTimeInOrder) {
-  std::vector<std::string> fired;
-  Timer& once = window.AddTimer("Once", 100, Timer::kOff);
-  Timer& tick = window.AddTimer("Tick", 30, Timer::kOff);
-  once.Action = [&] {
-    fired.push_back("once@" + std::to_string(headless.NowMicroseconds() / 1000));
-  };
-  tick.Action = [&] {
-    fired.push_back("tick@" + std::to_string(headless.NowMicroseconds() / 1000));
-  };
-  once.SetMode(Timer::kSingle);
-  tick.SetMode(Timer::kMultiple);
-  headless.Wait(99);
-  EXPECT_EQ(fired, (std::vector<std::string>{"tick@30", "tick@60", "tick@90"}));
-  headless.Wait(1);
-  EXPECT_EQ(fired.back(), "once@100");
-  EXPECT_EQ(once.Mode(), Timer::kOff);
-  tick.SetMode(Timer::kOff);
-  fired.clear();
-  headless.Wait(1000);
-  EXPECT_TRUE(fired.empty());
-}
-
-TEST_F(ControlModelTest, YieldLetsTimersRunDuringALongLoop) {
-  int fired = 0;
-  Timer& timer = window.AddTimer("T", 5, Timer::kMultiple);
-  timer.Action = [&] { ++fired; };
-  const auto start = headless.platform().clock.Ticks();
-  while (headless.platform().clock.Ticks() - start < 7) headless.platform().desktop.Yield();
-  EXPECT_EQ(headless.platform().clock.Ticks() - start, 7);
-  EXPECT_EQ(fired, 23);  // 7 ticks are 116.7 ms: the loop ends at 117 ms
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The chords of docs/keyboard.md, translated as both front ends translate them: the
-// text the keyboard map receives and whether control is down, or nothing at all. What
-// each text does is the keyboard chain scripts' to check.
+// text the keyboard map receives and whether control is down, or nothing at all. One
+// row per kind of translation; the chords script runs the common keys end to end, and
+// what each text does is the keyboard chain scripts' to check.
 #include "shell/key_chords.hpp"
 
 #include <gtest/gtest.h>
@@ -25,7 +26,6 @@ constexpr ChordCase kChords[] = {
     {"letter", "p", kNone, "p", false},
     {"capital letter", "X", kShift, "X", false},
     {"a character with no row", "é", kNone, "é", false},
-    {"space by character", " ", kNone, " ", false},
     {"period by name", "period", kNone, ".", false},
     {"plus-minus key", "plusminus", kNone, "±", false},
     {"keypad digit", "KP_5", kNone, "5", false},
@@ -34,37 +34,20 @@ constexpr ChordCase kChords[] = {
     {"Qt's keypad Enter", "Enter", kNone, "\x03", false},
     {"Qt's Esc, any case", "esc", kNone, "\x1b", false},
     {"Qt's Backspace", "Backspace", kNone, "\b", false},
-    {"keypad plus", "KP_Add", kNone, "+", false},
-    {"keypad times", "KP_Multiply", kNone, "*", false},
     {"minus by name", "minus", kNone, "-", false},
-    {"equal by name", "equal", kNone, "=", false},
-    {"Return", "Return", kNone, "\r", false},
-    {"keypad Enter", "KP_Enter", kNone, "\x03", false},
     {"BackSpace", "BackSpace", kNone, "\b", false},
-    {"Escape", "Escape", kNone, "\x1b", false},
     {"space by name", "space", kNone, " ", false},
     {"shifted 1 as the layout types it", "!", kShift, "!", false},
     // Keys with no text, and bare modifiers.
     {"function key", "F5", kNone, nullptr, false},
-    {"arrow", "Left", kNone, nullptr, false},
     {"bare control", "Control_L", kCtrl, nullptr, false},
-    {"bare shift", "Shift_R", kShift, nullptr, false},
     {"empty", "", kNone, nullptr, false},
     // Ctrl with the digits: the digit's text with control down.
     {"ctrl keypad 2", "KP_2", kCtrl, "2", true},
-    {"ctrl 1", "1", kCtrl, "1", true},
     {"ctrl 4, a digit with no control row", "4", kCtrl, "4", true},
     {"ctrl period, the abort chord", "period", kCtrl, ".", true},
     // Ctrl with letters: the control code; the menus keep theirs.
     {"ctrl A", "a", kCtrl, "\x01", true},
-    {"ctrl P", "p", kCtrl, "\x10", true},
-    {"ctrl R", "r", kCtrl, "\x12", true},
-    {"ctrl Y", "y", kCtrl, "\x19", true},
-    {"ctrl L", "l", kCtrl, "\x0c", true},
-    {"ctrl E", "e", kCtrl, "\x05", true},
-    {"ctrl N", "n", kCtrl, "\x0e", true},
-    {"ctrl U", "u", kCtrl, "\x15", true},
-    {"ctrl D", "d", kCtrl, "\x04", true},
     {"ctrl shift P, given as a capital", "P", kCtrlShift, "\x10", true},
     {"ctrl H", "h", kCtrl, "\b", true},
     {"ctrl M", "m", kCtrl, "\r", true},

@@ -138,18 +138,6 @@ TEST_F(PrefsModuleTest, GetBeforeOpeningReturnsTheDefaultAndCreatesNothing) {
   EXPECT_TRUE(prefs.Data().booleans.empty());
 }
 
-TEST_F(PrefsModuleTest, AMissingKeyIsCreatedWithItsDefaultAndReachesTheFile) {
-  prefs.SetName("Tessarine4 Preferences", "PREF");
-  EXPECT_EQ(prefs.GetStringValue("StartWithTab", "Tab1", true), "Tab1");
-  EXPECT_EQ(prefs.GetStringValue("StartWithTab", "Other", false), "Tab1");  // stored wins
-  prefs.WriteOut();
-  PrefsModule again(files, ".");
-  again.SetName("Tessarine4 Preferences", "PREF");
-  ASSERT_EQ(again.Data().strings.size(), 1u);
-  EXPECT_EQ(again.Data().strings[0].value, "Tab1");
-  EXPECT_TRUE(again.Data().strings[0].scrambled);
-}
-
 TEST_F(PrefsModuleTest, KeysAreCaseSignificantAndSetOverwritesInPlace) {
   prefs.SetName("Tessarine4 Preferences", "PREF");
   prefs.SetNumberValue("Left", 1, true);
