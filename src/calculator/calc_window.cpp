@@ -58,7 +58,7 @@ CalcWindow::CalcWindow(AppContext& app)
 }
 
 bool CalcWindow::MakeControls() {
-  for (const ControlSpec& spec : MainWindowControls()) AddControl(spec);
+  for (const ControlDesign& design : MainWindowControls()) AddControl(design);
   return true;
 }
 

@@ -11,29 +11,30 @@ struct Box {
   int left, top, width, height;
 };
 
-ControlSpec Row(std::string_view name, int index, ControlKind kind, std::string_view parent,
-                Box box, std::string_view text, std::vector<std::string> rows, int tab_page,
-                int panel_page, bool visible, std::uint32_t text_color) {
-  ControlSpec spec = ControlSpec::At(name, kind, box.left, box.top, box.width, box.height, text);
-  spec.index = index;
-  spec.parent = parent;
-  spec.rows = std::move(rows);
-  spec.tab_page = tab_page;
-  spec.panel_page = panel_page;
-  spec.visible = visible;
-  spec.text_color = text_color;
-  return spec;
+ControlDesign Row(std::string_view name, int index, ControlKind kind, std::string_view parent,
+                  Box box, std::string_view text, std::vector<std::string> rows, int tab_page,
+                  int panel_page, bool visible, std::uint32_t text_color) {
+  ControlDesign design =
+      ControlDesign::At(name, kind, box.left, box.top, box.width, box.height, text);
+  design.index = index;
+  design.parent = parent;
+  design.rows = std::move(rows);
+  design.tab_page = tab_page;
+  design.panel_page = panel_page;
+  design.visible = visible;
+  design.text_color = text_color;
+  return design;
 }
 
 }  // namespace
 
-const std::vector<ControlSpec>& MainWindowControls() {
+const std::vector<ControlDesign>& MainWindowControls() {
   using K = ControlKind;
   // Order matters: it is the order of the window's design, and parents come
   // before their children.
-  static const std::vector<ControlSpec> controls = [] {
+  static const std::vector<ControlDesign> controls = [] {
     // clang-format off: one row a control, as the design lists them
-    std::vector<ControlSpec> table = {
+    std::vector<ControlDesign> table = {
         Row("DisplayBackground", -1, K::RoundRectangle, "", {11, 10, 150, 34}, "", {}, 0, 0, true,
             0),
         Row("Display", -1, K::Label, "DisplayBackground", {16, 19, 137, 16}, "Initializing...", {},
@@ -311,12 +312,12 @@ const std::vector<ControlSpec>& MainWindowControls() {
             "Clear", {}, 5, 0, true, 0),
     };
     // clang-format on
-    for (ControlSpec& spec : table) {
+    for (ControlDesign& design : table) {
       // The tab panel's rows are its page captions.
-      if (spec.name == "CalcTabSelector")
-        spec.rows.assign(std::begin(kTabCaptions), std::end(kTabCaptions));
+      if (design.name == "CalcTabSelector")
+        design.rows.assign(std::begin(kTabCaptions), std::end(kTabCaptions));
       // Radians are on at start.
-      if (spec.name == "UnitsRadio" && spec.index == 0) spec.value = 1;
+      if (design.name == "UnitsRadio" && design.index == 0) design.value = 1;
     }
     return table;
   }();

@@ -16,6 +16,6 @@ namespace tessarine {
 inline constexpr std::string_view kTabCaptions[] = {"Math", "Convert", "Stats", "Fractions",
                                                     "Expression"};
 
-const std::vector<ControlSpec>& MainWindowControls();
+const std::vector<ControlDesign>& MainWindowControls();
 
 }  // namespace tessarine

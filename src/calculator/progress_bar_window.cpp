@@ -7,12 +7,12 @@ namespace tessarine {
 ProgressBarWindow::ProgressBarWindow(Platform& platform)
     : Window(platform, kName),
       CalculatingProgressBar(
-          (AddControl(ControlSpec::At("CalculatingText", ControlKind::Label, 20, 14, 259, 20,
-                                      "Calculating...")),
-           AddControl(ControlSpec::At("CalculatingProgressBar", ControlKind::ProgressBar, 20, 40,
-                                      259, 16, "")))) {
-  AddControl(ControlSpec::At("ProgressBarMessage", ControlKind::Label, 20, 66, 259, 20,
-                             "Press Command + period to abort."));
+          (AddControl(ControlDesign::At("CalculatingText", ControlKind::Label, 20, 14, 259, 20,
+                                        "Calculating...")),
+           AddControl(ControlDesign::At("CalculatingProgressBar", ControlKind::ProgressBar, 20, 40,
+                                        259, 16, "")))) {
+  AddControl(ControlDesign::At("ProgressBarMessage", ControlKind::Label, 20, 66, 259, 20,
+                               "Press Command + period to abort."));
   SetBounds(0, 0, 299, 100);
 }
 

@@ -18,15 +18,15 @@ TapeWindow* ExistingTapeWindow(const AppContext& app) {
 
 TapeWindow::TapeWindow(AppContext& app)
     : Window(app.platform, kName, "Tessarine Tape"),
-      TapeEditField(
-          AddControl(ControlSpec::At("TapeEditField", ControlKind::TextArea, 0, 0, 205, 218, ""))),
+      TapeEditField(AddControl(
+          ControlDesign::At("TapeEditField", ControlKind::TextArea, 0, 0, 205, 218, ""))),
       TapeOnButton(AddControl(
-          ControlSpec::At("TapeOnButton", ControlKind::RadioButton, 8, 224, 44, 20, "On"))),
+          ControlDesign::At("TapeOnButton", ControlKind::RadioButton, 8, 224, 44, 20, "On"))),
       TapeOffButton(AddControl(
-          ControlSpec::At("TapeOffButton", ControlKind::RadioButton, 56, 224, 44, 20, "Off"))),
+          ControlDesign::At("TapeOffButton", ControlKind::RadioButton, 56, 224, 44, 20, "Off"))),
       app_(app) {
   AddControl(
-      ControlSpec::At("ClearTapeButton", ControlKind::PushButton, 130, 223, 67, 22, "Clear"));
+      ControlDesign::At("ClearTapeButton", ControlKind::PushButton, 130, 223, 67, 22, "Clear"));
   SetVisible(false);  // it exists from the first write on, shown or not
   SetBounds(app.globals.TapeWindowLeftPosition, app.globals.TapeWindowTopPosition, 205,
             app.globals.TapeWindowHeight);

@@ -4,11 +4,11 @@ namespace tessarine {
 
 CurrencyErrorWindow::CurrencyErrorWindow(Platform& platform) : Window(platform, kName, "Untitled") {
   // The caution icon's canvas is drawn by the front end; the logic only places it.
-  AddControl(ControlSpec::At("CautionIcon2", ControlKind::Canvas, 26, 31, 40, 40));
+  AddControl(ControlDesign::At("CautionIcon2", ControlKind::Canvas, 26, 31, 40, 40));
   AddControl(
-      ControlSpec::At("ErrorText", ControlKind::Label, 80, 24, 222, 85, kRateUnavailableText));
+      ControlDesign::At("ErrorText", ControlKind::Label, 80, 24, 222, 85, kRateUnavailableText));
   AddControl(
-      ControlSpec::At("InputErrorCloseButton", ControlKind::PushButton, 122, 106, 80, 20, "OK"))
+      ControlDesign::At("InputErrorCloseButton", ControlKind::PushButton, 122, 106, 80, 20, "OK"))
       .events.Action = [this] { InputErrorCloseButton_Action(); };
   SetBounds(0, 0, 319, 146);
 }

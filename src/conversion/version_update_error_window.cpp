@@ -5,11 +5,11 @@ namespace tessarine {
 VersionUpdateErrorWindow::VersionUpdateErrorWindow(Platform& platform)
     : Window(platform, kName, "Untitled") {
   // The caution icon's canvas is drawn by the front end; the logic only places it.
-  AddControl(ControlSpec::At("Canvas2", ControlKind::Canvas, 20, 20, 48, 48));
-  AddControl(ControlSpec::At(
+  AddControl(ControlDesign::At("Canvas2", ControlKind::Canvas, 20, 20, 48, 48));
+  AddControl(ControlDesign::At(
       "ErrorMessage", ControlKind::Label, 84, 14, 270, 56,
       "Error: Could not connect to server. Currency exchange rates have not been updated."));
-  AddControl(ControlSpec::At("ButtonClose", ControlKind::PushButton, 274, 80, 80, 20, "OK"))
+  AddControl(ControlDesign::At("ButtonClose", ControlKind::PushButton, 274, 80, 80, 20, "OK"))
       .events.Action = [this] { ButtonClose_Action(); };
   SetBounds(0, 0, 370, 113);
 }

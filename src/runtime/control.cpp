@@ -71,23 +71,23 @@ bool IsEditable(ControlKind kind) {
          kind == ControlKind::NumberOnlyEditField;
 }
 
-Control::Control(Window& owner, const ControlSpec& spec)
+Control::Control(Window& owner, const ControlDesign& design)
     : owner_(owner),
-      name_(spec.name),
-      index_(spec.index),
-      kind_(spec.kind),
-      parent_(spec.parent),
-      tab_page_(spec.tab_page),
-      panel_page_(spec.panel_page),
-      text_(spec.text),
-      value_(spec.value),
-      rows_(spec.rows),
-      visible_(spec.visible),
-      text_color_(spec.text_color),
-      left_(spec.left),
-      top_(spec.top),
-      width_(spec.width),
-      height_(spec.height) {}
+      name_(design.name),
+      index_(design.index),
+      kind_(design.kind),
+      parent_(design.parent),
+      tab_page_(design.tab_page),
+      panel_page_(design.panel_page),
+      text_(design.text),
+      value_(design.value),
+      rows_(design.rows),
+      visible_(design.visible),
+      text_color_(design.text_color),
+      left_(design.left),
+      top_(design.top),
+      width_(design.width),
+      height_(design.height) {}
 
 std::string Control::FullName() const {
   return index_ < 0 ? name_ : name_ + "(" + std::to_string(index_) + ")";

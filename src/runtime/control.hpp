@@ -67,19 +67,19 @@ enum class Property {
 
 // Where and what a control is when its window is made: one row of a window's
 // control table.
-struct ControlSpec {
+struct ControlDesign {
   // A control at a place, with its design text: the usual row of a window's table.
-  static ControlSpec At(std::string_view name, ControlKind kind, int left, int top, int width,
-                        int height, std::string_view text = "") {
-    ControlSpec spec;
-    spec.name = name;
-    spec.kind = kind;
-    spec.left = left;
-    spec.top = top;
-    spec.width = width;
-    spec.height = height;
-    spec.text = text;
-    return spec;
+  static ControlDesign At(std::string_view name, ControlKind kind, int left, int top, int width,
+                          int height, std::string_view text = "") {
+    ControlDesign design;
+    design.name = name;
+    design.kind = kind;
+    design.left = left;
+    design.top = top;
+    design.width = width;
+    design.height = height;
+    design.text = text;
+    return design;
   }
 
   std::string name;
@@ -116,7 +116,7 @@ struct ControlEvents {
 
 class Control {
  public:
-  Control(Window& owner, const ControlSpec& spec);
+  Control(Window& owner, const ControlDesign& design);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 

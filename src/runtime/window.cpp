@@ -21,10 +21,10 @@ Window::Window(Platform& platform, std::string name, std::string title)
 
 Window::~Window() = default;
 
-Control& Window::AddControl(const ControlSpec& spec) {
-  controls_.push_back(std::make_unique<Control>(*this, spec));
+Control& Window::AddControl(const ControlDesign& design) {
+  controls_.push_back(std::make_unique<Control>(*this, design));
   Control* control = controls_.back().get();
-  by_name_[FoldName(spec.name)].push_back(control);
+  by_name_[FoldName(design.name)].push_back(control);
   return *control;
 }
 

@@ -34,7 +34,7 @@ class Window {
   const std::string& Title() const { return title_; }
   Platform& GetPlatform() const { return platform_; }
 
-  Control& AddControl(const ControlSpec& spec);
+  Control& AddControl(const ControlDesign& design);
   Timer& AddTimer(std::string name, int period_ms, int mode);
 
   // nullptr when there is no such control (index -1 for a plain control).

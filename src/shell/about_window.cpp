@@ -46,51 +46,50 @@ std::string CompilerLine() {
 AboutWindow::AboutWindow(AppContext& app)
     : Window(app.platform, kName, "About Tessarine"), app_(app) {
   using K = ControlKind;
-  auto add = [this](const ControlSpec& spec, std::uint32_t color = 0) -> Control& {
-    ControlSpec row = spec;
+  auto add = [this](const ControlDesign& design, std::uint32_t color = 0) -> Control& {
+    ControlDesign row = design;
     row.text_color = color;
     return AddControl(row);
   };
-  add(ControlSpec::At("ProgramLabel", K::Label, 0, 6, 325, 20, "Tessarine™")).events.Open = [this] {
-    Get("ProgramLabel").SetText("Tessarine™");
-  };
-  Control& version = add(ControlSpec::At("VersionLabel", K::Label, 0, 27, 325, 20, "Version"));
+  add(ControlDesign::At("ProgramLabel", K::Label, 0, 6, 325, 20, "Tessarine™")).events.Open =
+      [this] { Get("ProgramLabel").SetText("Tessarine™"); };
+  Control& version = add(ControlDesign::At("VersionLabel", K::Label, 0, 27, 325, 20, "Version"));
   version.events.Open = [this] { Get("VersionLabel").SetText(kVersionText); };
   version.events.MouseDown = [this](int x, int y) { return VersionLabel_MouseDown(x, y); };
   version.events.MouseUp = [this](int x, int y) { VersionLabel_MouseUp(x, y); };
   // The canvases' texts name the pictures the front end paints on them.
   Control& logo =
-      add(ControlSpec::At("BrindleyLogoCanvas", K::Canvas, 83, 62, 150, 93, "logo2011_150px"));
+      add(ControlDesign::At("BrindleyLogoCanvas", K::Canvas, 83, 62, 150, 93, "logo2011_150px"));
   logo.events.MouseDown = [](int, int) { return true; };
   logo.events.MouseUp = [this](int x, int y) { BrindleyLogoCanvas_MouseUp(x, y); };
   Control& site = add(
-      ControlSpec::At("WebSiteURLLabel", K::Label, 0, 153, 325, 20, std::string(kMakerHostName)),
+      ControlDesign::At("WebSiteURLLabel", K::Label, 0, 153, 325, 20, std::string(kMakerHostName)),
       kLinkColor);
   site.events.MouseDown = [this](int x, int y) { return WebSiteURLLabel_MouseDown(x, y); };
   site.events.MouseUp = [this](int x, int y) { WebSiteURLLabel_MouseUp(x, y); };
-  add(ControlSpec::At("AboutBoxText", K::Label, 20, 177, 285, 52,
-                      "For other great products, please visit the Brindley Software web site. "
-                      "The Fractions tab owes its arithmetic to the fraction calculator of a "
-                      "friend of the project."));
+  add(ControlDesign::At("AboutBoxText", K::Label, 20, 177, 285, 52,
+                        "For other great products, please visit the Brindley Software web site. "
+                        "The Fractions tab owes its arithmetic to the fraction calculator of a "
+                        "friend of the project."));
   Control& paypal =
-      add(ControlSpec::At("PaypalCanvas", K::Canvas, 132, 229, 62, 31, "PayPalDonate"));
+      add(ControlDesign::At("PaypalCanvas", K::Canvas, 132, 229, 62, 31, "PayPalDonate"));
   paypal.events.MouseDown = [this](int x, int y) { return PaypalCanvas_MouseDown(x, y); };
   paypal.events.MouseUp = [this](int x, int y) { PaypalCanvas_MouseUp(x, y); };
-  Control& clicker = add(ControlSpec::At("DonationClickerText", K::Label, 0, 257, 325, 20,
-                                         "Click here to make a donation"),
+  Control& clicker = add(ControlDesign::At("DonationClickerText", K::Label, 0, 257, 325, 20,
+                                           "Click here to make a donation"),
                          kLinkColor);
   clicker.events.MouseDown = [this](int x, int y) { return DonationClickerText_MouseDown(x, y); };
   clicker.events.MouseUp = [this](int x, int y) { DonationClickerText_MouseUp(x, y); };
-  Control& request = add(ControlSpec::At(
+  Control& request = add(ControlDesign::At(
       "DonationRequestText", K::Label, 20, 288, 285, 60,
       "It took hundreds of unpaid hours to create Tessarine. If you find it useful, please "
       "consider supporting its ongoing development by making a small donation to the author."));
   request.events.MouseDown = [](int, int) { return true; };
   request.events.MouseUp = [this](int x, int y) { DonationRequestText_MouseUp(x, y); };
-  add(ControlSpec::At("WarningText", K::Label, 0, 355, 325, 30,
-                      "Tessarine is freeware, given as it is, without warranty\r"
-                      "of any kind. Its maker is not liable for any damage\r"
-                      "that comes of its use."));
+  add(ControlDesign::At("WarningText", K::Label, 0, 355, 325, 30,
+                        "Tessarine is freeware, given as it is, without warranty\r"
+                        "of any kind. Its maker is not liable for any damage\r"
+                        "that comes of its use."));
   SetBounds(0, 0, 325, 394);
 }
 

@@ -10,10 +10,10 @@ void PreferencesWindow::MakeConstantsPage() {
   using K = ControlKind;
   const auto add = [this](const char* name, K kind, int left, int top, int width, int height,
                           const char* text, const char* parent) -> Control& {
-    ControlSpec spec = ControlSpec::At(name, kind, left, top, width, height, text);
-    spec.parent = parent;
-    spec.panel_page = kConstants + 1;
-    return AddControl(spec);
+    ControlDesign design = ControlDesign::At(name, kind, left, top, width, height, text);
+    design.parent = parent;
+    design.panel_page = kConstants + 1;
+    return AddControl(design);
   };
   const char* page = "PreferencesPagePanel";
   const char* list_box = "EditConstantsMenuItemGroupBox";

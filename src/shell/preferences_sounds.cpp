@@ -51,22 +51,22 @@ void MakeSoundControls(PreferencesWindow& window, AppContext& app) {
   const auto add = [&window](const std::string& name, ControlKind kind, int left, int top,
                              int width, int height, const std::string& text,
                              const std::string& parent) -> Control& {
-    ControlSpec spec = ControlSpec::At(name, kind, left, top, width, height, text);
-    spec.parent = parent;
-    spec.panel_page = PreferencesWindow::kSound + 1;
-    return window.AddControl(spec);
+    ControlDesign design = ControlDesign::At(name, kind, left, top, width, height, text);
+    design.parent = parent;
+    design.panel_page = PreferencesWindow::kSound + 1;
+    return window.AddControl(design);
   };
   int top = 80;
   for (int i = 0; i < 5; ++i) {
     const SoundClass& c = kClasses[i];
     const std::string group = std::string(c.prefix) + "SoundGroupBox";
     add(group, ControlKind::GroupBox, 15, top, 260, 55, c.caption, "PreferencesPagePanel");
-    ControlSpec popup_spec =
-        ControlSpec::At(PopUp(c), ControlKind::PopupMenu, 25, top + 22, 140, 22);
-    popup_spec.parent = group;
-    popup_spec.panel_page = PreferencesWindow::kSound + 1;
-    popup_spec.rows = kSoundRows;
-    Control& popup = window.AddControl(popup_spec);
+    ControlDesign popup_design =
+        ControlDesign::At(PopUp(c), ControlKind::PopupMenu, 25, top + 22, 140, 22);
+    popup_design.parent = group;
+    popup_design.panel_page = PreferencesWindow::kSound + 1;
+    popup_design.rows = kSoundRows;
+    Control& popup = window.AddControl(popup_design);
     popup.events.Open = [&app, &popup, &c] {
       popup.SetEnabled(app.globals.*c.use);
       popup.SetListIndex(static_cast<int>(ReadPref(app.prefs, c.number_key)));

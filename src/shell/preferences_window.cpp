@@ -47,11 +47,11 @@ PreferencesWindow::PreferencesWindow(AppContext& app)
 }
 
 void PreferencesWindow::MakeToolbar() {
-  AddControl(ControlSpec::At("Canvas1", K::Canvas, 0, 0, 448, 72));
+  AddControl(ControlDesign::At("Canvas1", K::Canvas, 0, 0, 448, 72));
   int left = 0;
   for (const ToolbarButton& row : kToolbar) {
     Control& button =
-        AddControl(ControlSpec::At(row.name, K::Canvas, left, 0, 70, 71, row.caption));
+        AddControl(ControlDesign::At(row.name, K::Canvas, left, 0, 70, 71, row.caption));
     const Page page = row.page;
     button.events.MouseDown = [this, &button, page](int, int) {
       ToolbarMouseDown(button, page);
@@ -63,17 +63,17 @@ void PreferencesWindow::MakeToolbar() {
   }
   // Selected by design; the Value of a toolbar button is its selected state.
   Get("GeneralButtonCanvas").SetValue(1);
-  ControlSpec panel = ControlSpec::At("PreferencesPagePanel", K::PagePanel, 0, 72, 448, 360);
+  ControlDesign panel = ControlDesign::At("PreferencesPagePanel", K::PagePanel, 0, 72, 448, 360);
   AddControl(panel);
 }
 
 void PreferencesWindow::MakeGeneralPage() {
   const auto add = [this](const char* name, K kind, int left, int top, int width, int height,
                           const char* text = "") -> Control& {
-    ControlSpec spec = ControlSpec::At(name, kind, left, top, width, height, text);
-    spec.parent = "PreferencesPagePanel";
-    spec.panel_page = kGeneral + 1;
-    return AddControl(spec);
+    ControlDesign design = ControlDesign::At(name, kind, left, top, width, height, text);
+    design.parent = "PreferencesPagePanel";
+    design.panel_page = kGeneral + 1;
+    return AddControl(design);
   };
   GlobalStuff& g = app_.globals;
   Control& tags = add("ShowHelpTagsCheckBox", K::CheckBox, 20, 84, 315, 20, "Show help tags");
@@ -114,10 +114,10 @@ void PreferencesWindow::MakeGeneralPage() {
 void PreferencesWindow::MakeNetworkPage() {
   const auto add = [this](const char* name, K kind, int left, int top, int width, int height,
                           const char* text = "", const char* parent = "") -> Control& {
-    ControlSpec spec = ControlSpec::At(name, kind, left, top, width, height, text);
-    spec.parent = *parent ? parent : "PreferencesPagePanel";
-    spec.panel_page = kNetwork + 1;
-    return AddControl(spec);
+    ControlDesign design = ControlDesign::At(name, kind, left, top, width, height, text);
+    design.parent = *parent ? parent : "PreferencesPagePanel";
+    design.panel_page = kNetwork + 1;
+    return AddControl(design);
   };
   PrefsModule& store = app_.prefs;
   Control& updates = add("CheckForUpdatesCheckBox", K::CheckBox, 20, 82, 330, 20,

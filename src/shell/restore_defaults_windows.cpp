@@ -18,17 +18,17 @@ RestoreDefaultsWindow::RestoreDefaultsWindow(AppContext& app, const char* name, 
                                              const char* message)
     : Window(app.platform, name, title), app_(app) {
   using K = ControlKind;
-  AddControl(ControlSpec::At(message_name, K::Label, 78, 14, width - 92, 52, message));
-  AddControl(ControlSpec::At("CautionIcon2", K::Canvas, 20, 14, 40, 40));
+  AddControl(ControlDesign::At(message_name, K::Label, 78, 14, width - 92, 52, message));
+  AddControl(ControlDesign::At("CautionIcon2", K::Canvas, 20, 14, 40, 40));
   // Both windows name their "Yes" so.
   AddControl(
-      ControlSpec::At("RestoreConstantsButton", K::PushButton, width - 90, 94, 70, 20, "Yes"))
+      ControlDesign::At("RestoreConstantsButton", K::PushButton, width - 90, 94, 70, 20, "Yes"))
       .events.Action = [this] {
     Restore();
     Dismiss();
   };
   AddControl(
-      ControlSpec::At("DontSaveChangesButton", K::PushButton, width - 170, 94, 70, 20, "Cancel"))
+      ControlDesign::At("DontSaveChangesButton", K::PushButton, width - 170, 94, 70, 20, "Cancel"))
       .events.Action = [this] { Dismiss(); };
   SetBounds(0, 0, width, 131);
 }

@@ -23,20 +23,20 @@ void ShowUpdateSheet(AppContext& app, const char* name) {
 
 VersionUpdateWindow::VersionUpdateWindow(AppContext& app)
     : Window(app.platform, kName, "Untitled"), app_(app) {
-  AddControl(ControlSpec::At("Canvas1", ControlKind::Canvas, 20, 20, 48, 48));
-  AddControl(ControlSpec::At(
+  AddControl(ControlDesign::At("Canvas1", ControlKind::Canvas, 20, 20, 48, 48));
+  AddControl(ControlDesign::At(
       "CheckForUpdateMessage", ControlKind::Label, 84, 14, 350, 40,
       "An Internet connection is required for this function. Click OK to proceed."));
-  AddControl(ControlSpec::At("ButtonCancel", ControlKind::PushButton, 258, 86, 80, 20, "Cancel"))
+  AddControl(ControlDesign::At("ButtonCancel", ControlKind::PushButton, 258, 86, 80, 20, "Cancel"))
       .events.Action = [this] { ButtonCancel_Action(); };
-  AddControl(ControlSpec::At("ButtonOK", ControlKind::PushButton, 352, 86, 80, 20, "OK"))
+  AddControl(ControlDesign::At("ButtonOK", ControlKind::PushButton, 352, 86, 80, 20, "OK"))
       .events.Action = [this] { ButtonOK_Action(); };
-  ControlSpec status = ControlSpec::At("InternetUpdateStatus", ControlKind::Label, 84, 60, 250, 18,
-                                       "Connecting to server...");
+  ControlDesign status = ControlDesign::At("InternetUpdateStatus", ControlKind::Label, 84, 60, 250,
+                                           18, "Connecting to server...");
   status.visible = false;
   AddControl(status);
-  ControlSpec arrows =
-      ControlSpec::At("CheckForUpdateChasingArrows", ControlKind::ProgressBar, 20, 86, 16, 16);
+  ControlDesign arrows =
+      ControlDesign::At("CheckForUpdateChasingArrows", ControlKind::ProgressBar, 20, 86, 16, 16);
   arrows.visible = false;
   AddControl(arrows);
   SetBounds(0, 0, 450, 120);
@@ -93,10 +93,10 @@ void VersionUpdateWindow::CloseSheet() {
 
 VersionUpToDateWindow::VersionUpToDateWindow(Platform& platform)
     : Window(platform, kName, "Untitled") {
-  AddControl(ControlSpec::At("Canvas2", ControlKind::Canvas, 20, 20, 48, 48));
-  AddControl(ControlSpec::At("StaticText1", ControlKind::Label, 84, 20, 250, 36,
-                             "Your copy of Tessarine is up to date."));
-  AddControl(ControlSpec::At("ButtonClose", ControlKind::PushButton, 254, 78, 80, 20, "OK"))
+  AddControl(ControlDesign::At("Canvas2", ControlKind::Canvas, 20, 20, 48, 48));
+  AddControl(ControlDesign::At("StaticText1", ControlKind::Label, 84, 20, 250, 36,
+                               "Your copy of Tessarine is up to date."));
+  AddControl(ControlDesign::At("ButtonClose", ControlKind::PushButton, 254, 78, 80, 20, "OK"))
       .events.Action = [this] { ButtonClose_Action(); };
   SetBounds(0, 0, 350, 111);
 }
@@ -107,19 +107,19 @@ void VersionUpToDateWindow::ButtonClose_Action() {
 
 VersionUpdateDownloadWindow::VersionUpdateDownloadWindow(Platform& platform)
     : Window(platform, kName, "Untitled") {
-  AddControl(ControlSpec::At("Canvas2", ControlKind::Canvas, 20, 20, 48, 48));
-  Control& message = AddControl(ControlSpec::At("VersionMessage", ControlKind::Label, 84, 16, 280,
-                                                20, "Version x.xx is now available!"));
+  AddControl(ControlDesign::At("Canvas2", ControlKind::Canvas, 20, 20, 48, 48));
+  Control& message = AddControl(ControlDesign::At("VersionMessage", ControlKind::Label, 84, 16, 280,
+                                                  20, "Version x.xx is now available!"));
   message.events.Open = [&message] {
     message.SetText("A new version of Tessarine is now available!");
   };
-  AddControl(
-      ControlSpec::At("InstructionsMessage", ControlKind::Label, 84, 42, 280, 40,
-                      "Click the Download button to open the download page in your web browser."));
-  AddControl(ControlSpec::At("ButtonCancel", ControlKind::PushButton, 183, 114, 80, 20, "Later"))
+  AddControl(ControlDesign::At(
+      "InstructionsMessage", ControlKind::Label, 84, 42, 280, 40,
+      "Click the Download button to open the download page in your web browser."));
+  AddControl(ControlDesign::At("ButtonCancel", ControlKind::PushButton, 183, 114, 80, 20, "Later"))
       .events.Action = [this] { ButtonCancel_Action(); };
   AddControl(
-      ControlSpec::At("ButtonDownload", ControlKind::PushButton, 279, 114, 86, 20, "Download"))
+      ControlDesign::At("ButtonDownload", ControlKind::PushButton, 279, 114, 86, 20, "Download"))
       .events.Action = [this] { ButtonDownload_Action(); };
   SetBounds(0, 0, 379, 150);
 }

@@ -15,26 +15,26 @@ constexpr std::uint32_t kResultColour = 0x003f7f;
 ANOVAWindow::ANOVAWindow(AppContext& app)
     : Window(app.platform, kName, "Tessarine ANOVA"), app_(app) {
   using K = ControlKind;
-  AddControl(ControlSpec::At("GroupBox1", K::GroupBox, 13, 18, 155, 75, "Type of ANOVA:"));
-  ControlSpec between =
-      ControlSpec::At("BetweenButton", K::RadioButton, 20, 42, 130, 20, "Between Groups");
+  AddControl(ControlDesign::At("GroupBox1", K::GroupBox, 13, 18, 155, 75, "Type of ANOVA:"));
+  ControlDesign between =
+      ControlDesign::At("BetweenButton", K::RadioButton, 20, 42, 130, 20, "Between Groups");
   between.parent = "GroupBox1";
   between.value = 1;
   AddControl(between).SetHelpTag(
       "Choose this option if different subjects were used for each of the groups.");
-  ControlSpec within =
-      ControlSpec::At("WithinButton", K::RadioButton, 20, 65, 140, 20, "Repeated measures");
+  ControlDesign within =
+      ControlDesign::At("WithinButton", K::RadioButton, 20, 65, 140, 20, "Repeated measures");
   within.parent = "GroupBox1";
   AddControl(within).SetHelpTag(
       "Choose this option if the same subjects were tested repeatedly, once for each condition");
-  AddControl(ControlSpec::At("CalculateButton", K::PushButton, 46, 106, 80, 20, "Calculate"))
+  AddControl(ControlDesign::At("CalculateButton", K::PushButton, 46, 106, 80, 20, "Calculate"))
       .events.Action = [this] { CalculateButton_Action(); };
-  AddControl(ControlSpec::At("CloseButton", K::PushButton, 46, 135, 80, 20, "Close"))
+  AddControl(ControlDesign::At("CloseButton", K::PushButton, 46, 135, 80, 20, "Close"))
       .events.Action = [this] { CloseButton_Action(); };
-  AddControl(ControlSpec::At("GroupBox2", K::GroupBox, 183, 18, 216, 123, "Samples to compare:"));
+  AddControl(ControlDesign::At("GroupBox2", K::GroupBox, 183, 18, 216, 123, "Samples to compare:"));
   AddSampleCheckBoxes(*this, "GroupBox2", 191, 295, AnovaChoice{}.ticked);
-  ControlSpec result = ControlSpec::At("ANOVAResultText", K::Label, 183, 146, 217, 20,
-                                       "ANOVA result will appear here");
+  ControlDesign result = ControlDesign::At("ANOVAResultText", K::Label, 183, 146, 217, 20,
+                                           "ANOVA result will appear here");
   result.visible = false;
   result.text_color = kResultColour;
   AddControl(result);

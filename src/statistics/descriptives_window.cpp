@@ -9,9 +9,9 @@ namespace tessarine::statistics {
 DescriptivesWindow::DescriptivesWindow(AppContext& app)
     : Window(app.platform, kName, "Untitled"), app_(app) {
   using K = ControlKind;
-  AddControl(ControlSpec::At("DescriptivesEditField", K::TextArea, 14, 13, 272, 194));
-  AddControl(ControlSpec::At("CellNumberLabel", K::Label, 14, 220, 70, 20, "Sample #:"));
-  ControlSpec popup = ControlSpec::At("CellNumberPopUp", K::PopupMenu, 86, 220, 60, 20);
+  AddControl(ControlDesign::At("DescriptivesEditField", K::TextArea, 14, 13, 272, 194));
+  AddControl(ControlDesign::At("CellNumberLabel", K::Label, 14, 220, 70, 20, "Sample #:"));
+  ControlDesign popup = ControlDesign::At("CellNumberPopUp", K::PopupMenu, 86, 220, 60, 20);
   popup.rows = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"};
   Control& cell = AddControl(popup);
   // Starts on the main window's sample; the change shows it.
@@ -19,9 +19,9 @@ DescriptivesWindow::DescriptivesWindow(AppContext& app)
     cell.SetListIndex(GetCalcWindow(app_).Get("CellNumberPopUp").ListIndex());
   };
   cell.events.Change = [this] { UpdateDescriptives(); };
-  AddControl(ControlSpec::At("DescriptivesCloseButton", K::PushButton, 206, 220, 80, 20, "Close"))
+  AddControl(ControlDesign::At("DescriptivesCloseButton", K::PushButton, 206, 220, 80, 20, "Close"))
       .events.Action = [this] { CloseSheet(app_, *this); };
-  AddControl(ControlSpec::At("StatsResultsEditField", K::TextArea, 332, 13, 100, 100));
+  AddControl(ControlDesign::At("StatsResultsEditField", K::TextArea, 332, 13, 100, 100));
   SetBounds(0, 0, 299, 255);
 }
 

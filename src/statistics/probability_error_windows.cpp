@@ -11,11 +11,11 @@ namespace {
 // The caution icon, the message and the OK button, as both sheets lay them out.
 Control& AddErrorControls(Window& window, const char* text_name, std::string_view text,
                           const char* button_name) {
-  window.AddControl(ControlSpec::At("CautionIcon", ControlKind::Canvas, 14, 14, 32, 32));
-  window.AddControl(ControlSpec::At(text_name, ControlKind::Label, 62, 14, 224, 80, text));
+  window.AddControl(ControlDesign::At("CautionIcon", ControlKind::Canvas, 14, 14, 32, 32));
+  window.AddControl(ControlDesign::At(text_name, ControlKind::Label, 62, 14, 224, 80, text));
   window.SetBounds(0, 0, 300, 136);
   return window.AddControl(
-      ControlSpec::At(button_name, ControlKind::PushButton, 206, 104, 80, 20, "OK"));
+      ControlDesign::At(button_name, ControlKind::PushButton, 206, 104, 80, 20, "OK"));
 }
 
 }  // namespace

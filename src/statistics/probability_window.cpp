@@ -53,10 +53,10 @@ constexpr const char* kInputFields[] = {"FInputField", "dfnInputField", "dfdInpu
 ProbabilityWindow::ProbabilityWindow(AppContext& app)
     : Window(app.platform, kName, "Probability"), app_(app) {
   for (const Row& row : kRows) {
-    ControlSpec spec =
-        ControlSpec::At(row.name, row.kind, row.left, row.top, row.width, row.height, row.text);
-    spec.parent = row.parent;
-    AddControl(spec);
+    ControlDesign design =
+        ControlDesign::At(row.name, row.kind, row.left, row.top, row.width, row.height, row.text);
+    design.parent = row.parent;
+    AddControl(design);
   }
   Get("EpsilonLabel").SetTextColor(kEpsilonLabelDesign);
   for (const char* name : {"CalculateButton", "ClearButton", "EpsilonInputField"})

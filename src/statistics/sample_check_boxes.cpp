@@ -8,13 +8,13 @@ void AddSampleCheckBoxes(Window& window, const char* parent, int left_column, in
                          const std::array<bool, 10>& ticked) {
   constexpr int kTops[5] = {38, 57, 76, 95, 114};
   for (int i = 0; i < 10; ++i) {
-    ControlSpec spec = ControlSpec::At("SampleNumberCheckBox", ControlKind::CheckBox,
-                                       i < 5 ? left_column : right_column, kTops[i % 5], 100, 20,
-                                       "Sample " + std::to_string(i + 1));
-    spec.index = i;
-    spec.parent = parent;
-    spec.value = ticked[static_cast<std::size_t>(i)] ? 1 : 0;
-    window.AddControl(spec);
+    ControlDesign design = ControlDesign::At("SampleNumberCheckBox", ControlKind::CheckBox,
+                                             i < 5 ? left_column : right_column, kTops[i % 5], 100,
+                                             20, "Sample " + std::to_string(i + 1));
+    design.index = i;
+    design.parent = parent;
+    design.value = ticked[static_cast<std::size_t>(i)] ? 1 : 0;
+    window.AddControl(design);
   }
 }
 

@@ -11,13 +11,13 @@ namespace tessarine::statistics {
 
 StatsErrorWindow::StatsErrorWindow(AppContext& app)
     : Window(app.platform, kName, "Tessarine User Error"),
-      ErrorText((AddControl(ControlSpec::At("CautionIcon2", ControlKind::Canvas, 14, 14, 32, 32)),
-                 AddControl(ControlSpec::At("ErrorText", ControlKind::Label, 62, 14, 247, 92,
-                                            "An unexpected error has occurred (type 101). Please "
-                                            "contact Brindley Software and report this bug.")))),
+      ErrorText((AddControl(ControlDesign::At("CautionIcon2", ControlKind::Canvas, 14, 14, 32, 32)),
+                 AddControl(ControlDesign::At("ErrorText", ControlKind::Label, 62, 14, 247, 92,
+                                              "An unexpected error has occurred (type 101). Please "
+                                              "contact Brindley Software and report this bug.")))),
       app_(app) {
   AddControl(
-      ControlSpec::At("InputErrorCloseButton", ControlKind::PushButton, 229, 119, 80, 20, "OK"))
+      ControlDesign::At("InputErrorCloseButton", ControlKind::PushButton, 229, 119, 80, 20, "OK"))
       .events.Action = [this] { InputErrorCloseButton_Action(); };
   SetBounds(0, 0, 323, 154);
 }

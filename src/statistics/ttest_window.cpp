@@ -15,24 +15,24 @@ constexpr std::uint32_t kResultColour = 0x003f7f;
 ttestWindow::ttestWindow(AppContext& app)
     : Window(app.platform, kName, "Tessarine t-test"), app_(app) {
   using K = ControlKind;
-  AddControl(ControlSpec::At("GroupBox1", K::GroupBox, 13, 18, 145, 90, "Type of t-test:"));
-  ControlSpec unpaired =
-      ControlSpec::At("UnpairedButton", K::RadioButton, 20, 37, 110, 20, "Unpaired");
+  AddControl(ControlDesign::At("GroupBox1", K::GroupBox, 13, 18, 145, 90, "Type of t-test:"));
+  ControlDesign unpaired =
+      ControlDesign::At("UnpairedButton", K::RadioButton, 20, 37, 110, 20, "Unpaired");
   unpaired.value = 1;
   AddControl(unpaired);
-  AddControl(ControlSpec::At("PairedButton", K::RadioButton, 21, 59, 110, 20, "Paired"));
-  ControlSpec one_tailed =
-      ControlSpec::At("OneTailedCheckBox", K::CheckBox, 21, 82, 125, 20, "One-tailed");
+  AddControl(ControlDesign::At("PairedButton", K::RadioButton, 21, 59, 110, 20, "Paired"));
+  ControlDesign one_tailed =
+      ControlDesign::At("OneTailedCheckBox", K::CheckBox, 21, 82, 125, 20, "One-tailed");
   one_tailed.parent = "GroupBox1";
   AddControl(one_tailed);
-  AddControl(ControlSpec::At("OKButton", K::PushButton, 44, 121, 80, 20, "Calculate"))
+  AddControl(ControlDesign::At("OKButton", K::PushButton, 44, 121, 80, 20, "Calculate"))
       .events.Action = [this] { OKButton_Action(); };
-  AddControl(ControlSpec::At("CancelButton", K::PushButton, 44, 150, 80, 20, "Close"))
+  AddControl(ControlDesign::At("CancelButton", K::PushButton, 44, 150, 80, 20, "Close"))
       .events.Action = [this] { CancelButton_Action(); };
-  AddControl(ControlSpec::At("GroupBox2", K::GroupBox, 170, 18, 216, 123, "Samples to compare"));
+  AddControl(ControlDesign::At("GroupBox2", K::GroupBox, 170, 18, 216, 123, "Samples to compare"));
   AddSampleCheckBoxes(*this, "GroupBox2", 178, 282, TTestChoice{}.ticked);
-  ControlSpec result = ControlSpec::At("ttestResultText", K::Label, 171, 146, 217, 20,
-                                       "t-test result will appear here");
+  ControlDesign result = ControlDesign::At("ttestResultText", K::Label, 171, 146, 217, 20,
+                                           "t-test result will appear here");
   result.visible = false;
   result.text_color = kResultColour;
   AddControl(result);

@@ -14,12 +14,12 @@
 namespace tessarine {
 namespace {
 
-ControlSpec Spec(std::string name, ControlKind kind, int index = -1) {
-  ControlSpec spec;
-  spec.name = std::move(name);
-  spec.kind = kind;
-  spec.index = index;
-  return spec;
+ControlDesign Design(std::string name, ControlKind kind, int index = -1) {
+  ControlDesign design;
+  design.name = std::move(name);
+  design.kind = kind;
+  design.index = index;
+  return design;
 }
 
 class ControlModelTest : public ::testing::Test {
@@ -29,9 +29,9 @@ class ControlModelTest : public ::testing::Test {
 };
 
 TEST_F(ControlModelTest, FindsControlsByNameIgnoringCaseAndArraysByIndex) {
-  window.AddControl(Spec("Display", ControlKind::Label));
-  window.AddControl(Spec("Radio", ControlKind::RadioButton, 0));
-  window.AddControl(Spec("Radio", ControlKind::RadioButton, 1));
+  window.AddControl(Design("Display", ControlKind::Label));
+  window.AddControl(Design("Radio", ControlKind::RadioButton, 0));
+  window.AddControl(Design("Radio", ControlKind::RadioButton, 1));
   EXPECT_EQ(&window.Get("display"), window.FindControl("Display"));
   EXPECT_EQ(window.Item("Radio", 1).Index(), 1);
   EXPECT_EQ(window.FindControl("Radio"), nullptr);  // an array has no plain member
@@ -40,8 +40,8 @@ TEST_F(ControlModelTest, FindsControlsByNameIgnoringCaseAndArraysByIndex) {
 }
 
 TEST_F(ControlModelTest, AssignmentsRaiseTheirEventsOnlyOnChange) {
-  Control& field = window.AddControl(Spec("Field", ControlKind::TextField));
-  Control& popup = window.AddControl(Spec("Popup", ControlKind::PopupMenu));
+  Control& field = window.AddControl(Design("Field", ControlKind::TextField));
+  Control& popup = window.AddControl(Design("Popup", ControlKind::PopupMenu));
   popup.AddRow("a");
   popup.AddRow("b");
   int text_changes = 0, list_changes = 0;
@@ -59,8 +59,8 @@ TEST_F(ControlModelTest, AssignmentsRaiseTheirEventsOnlyOnChange) {
 }
 
 TEST_F(ControlModelTest, UserActionsOnADisabledControlDoNothing) {
-  Control& key = window.AddControl(Spec("Key", ControlKind::CalcBevelButton));
-  Control& box = window.AddControl(Spec("Box", ControlKind::CheckBox));
+  Control& key = window.AddControl(Design("Key", ControlKind::CalcBevelButton));
+  Control& box = window.AddControl(Design("Box", ControlKind::CheckBox));
   int actions = 0;
   key.events.Action = [&] { ++actions; };
   key.SetEnabled(false);
@@ -75,7 +75,7 @@ TEST_F(ControlModelTest, UserActionsOnADisabledControlDoNothing) {
 }
 
 TEST_F(ControlModelTest, MouseUpFollowsOnlyAMouseDownThatAskedForIt) {
-  Control& link = window.AddControl(Spec("Link", ControlKind::Label));
+  Control& link = window.AddControl(Design("Link", ControlKind::Label));
   bool wants_up = false;
   int ups = 0;
   link.events.MouseDown = [&](int, int) { return wants_up; };
@@ -90,7 +90,7 @@ TEST_F(ControlModelTest, MouseUpFollowsOnlyAMouseDownThatAskedForIt) {
 }
 
 TEST_F(ControlModelTest, ObserversHearRealChangesOnly) {
-  Control& label = window.AddControl(Spec("Label", ControlKind::Label));
+  Control& label = window.AddControl(Design("Label", ControlKind::Label));
   std::vector<Property> heard;
   window.Observe([&](Control* c, Property p) {
     if (c == &label) heard.push_back(p);
@@ -104,8 +104,8 @@ TEST_F(ControlModelTest, ObserversHearRealChangesOnly) {
 }
 
 TEST_F(ControlModelTest, AFaultInANestedEventReachesTheOuterHandler) {
-  Control& key = window.AddControl(Spec("Key", ControlKind::PushButton));
-  Control& field = window.AddControl(Spec("Field", ControlKind::TextField));
+  Control& key = window.AddControl(Design("Key", ControlKind::PushButton));
+  Control& field = window.AddControl(Design("Field", ControlKind::TextField));
   field.events.TextChange = [&] { window.Get("Missing"); };
   bool outer_went_on = false;
   key.events.Action = [&] {

@@ -46,7 +46,7 @@ TEST(HelpTags, PreferencesTableSetsAndClearsItsControlsInOrder) {
                                           "MoveUpButton",
                                           "RemoveConstantButton"};
   for (const std::string& name : order)
-    window.AddControl(ControlSpec::At(name, ControlKind::PushButton, 0, 0, 10, 10));
+    window.AddControl(ControlDesign::At(name, ControlKind::PushButton, 0, 0, 10, 10));
   std::vector<std::string> set;
   window.Observe([&](Control* control, Property property) {
     if (control && property == Property::HelpTag) set.push_back(control->Name());
