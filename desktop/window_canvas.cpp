@@ -22,6 +22,7 @@
 #include <algorithm>
 
 #include "accessible_names.hpp"
+#include "control_forwarders.hpp"
 #include "control_look.hpp"
 #include "control_widgets.hpp"
 #include "file_drop.hpp"
@@ -29,44 +30,11 @@
 #include "named_picture_canvas.hpp"
 #include "picture_canvas.hpp"
 #include "runtime/text.hpp"
+#include "screen_text.hpp"
 #include "text_selection.hpp"
 
 namespace tessarine::desktop {
-
 namespace {
-
-QString Q(const std::string& text) {
-  return QString::fromStdString(text);
-}
-
-// The program ends its lines with a carriage return; Qt's text widgets with a
-// line feed.
-QString ToScreen(const std::string& text) {
-  QString s = Q(text);
-  s.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-  s.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  return s;
-}
-
-// What a text widget shows, as the model's text shows on screen.
-QString CurrentText(QWidget* widget) {
-  if (auto* edit = qobject_cast<QLineEdit*>(widget)) return edit->text();
-  if (auto* area = qobject_cast<QPlainTextEdit*>(widget)) return area->toPlainText();
-  return {};
-}
-
-std::string FromScreen(const QString& text) {
-  QString s = text;
-  s.replace(QLatin1Char('\n'), QLatin1Char('\r'));
-  return s.toStdString();
-}
-
-// A caption is no mnemonic: a lone & stays an ampersand.
-QString Caption(const std::string& text) {
-  QString s = Q(text);
-  s.replace(QLatin1Char('&'), QStringLiteral("&&"));
-  return s;
-}
 
 bool IsBackdrop(ControlKind kind) {
   switch (kind) {
@@ -81,70 +49,6 @@ bool IsBackdrop(ControlKind kind) {
       return false;
   }
 }
-
-// Mouse events of a widget, forwarded to its control's MouseDown, MouseUp,
-// MouseMove and MouseExit. The widget still gets them.
-class MouseForwarder final : public QObject {
- public:
-  MouseForwarder(Control& control, QObject* parent) : QObject(parent), control_(control) {}
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::MouseButtonPress: {
-        const QPoint p = static_cast<QMouseEvent*>(event)->position().toPoint();
-        Track(p);
-        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
-          control_.UserMouseDown(p.x(), p.y());
-        break;
-      }
-      case QEvent::MouseButtonRelease: {
-        const QPoint p = static_cast<QMouseEvent*>(event)->position().toPoint();
-        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
-          control_.UserMouseUp(p.x(), p.y());
-        break;
-      }
-      case QEvent::MouseMove: {
-        const QPoint p = static_cast<QMouseEvent*>(event)->position().toPoint();
-        Track(p);
-        control_.UserMouseMove(p.x(), p.y());
-        break;
-      }
-      case QEvent::Leave:
-        control_.UserMouseExit();
-        break;
-      default:
-        break;
-    }
-    return false;
-  }
-
- private:
-  // The window's pointer position, which the logic reads (the memory list opens
-  // at the pointer).
-  void Track(const QPoint& p) {
-    control_.Owner().SetMousePosition(control_.Left() + p.x(), control_.Top() + p.y());
-  }
-
-  Control& control_;
-};
-
-// Keys typed into a text field go to its control's KeyDown first, which may swallow
-// them; a key with no text (an arrow, a modifier) is no character and passes.
-class KeyForwarder final : public QObject {
- public:
-  KeyForwarder(Control& control, QObject* parent) : QObject(parent), control_(control) {}
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress) return false;
-    const QString text = static_cast<QKeyEvent*>(event)->text();
-    return !text.isEmpty() && control_.UserKeyDown(text.toStdString());
-  }
-
- private:
-  Control& control_;
-};
 
 }  // namespace
 
@@ -404,196 +308,6 @@ void WindowCanvas::UserMovedCaret(Control& control, QWidget* widget) {
   if (CurrentText(widget) != ToScreen(control.Text())) return;  // the text follows first
   const auto [start, length] = ReadSelection(widget, control);
   control.UserSetSelection(start, length);
-}
-
-void WindowCanvas::ApplyAll(const Bound& bound) {
-  applying_ = true;
-  ApplyRows(bound);
-  ApplyListIndex(bound);
-  ApplyText(bound);
-  ApplyValue(bound);
-  ShowSelection(bound.widget, *bound.control);
-  ApplyLook(bound);
-  Apply(bound, Property::Enabled);
-  Apply(bound, Property::HelpTag);
-  Apply(bound, Property::Maximum);
-  Apply(bound, Property::Bounds);
-  applying_ = false;
-}
-
-void WindowCanvas::OnChanged(Control* control, Property property) {
-  if (!control) {
-    if (property == Property::Bounds && on_window_bounds) on_window_bounds();
-    return;
-  }
-  const auto it = index_.find(control);
-  if (it == index_.end()) return;
-  const Bound& bound = bound_[it->second];
-  const ControlKind kind = control->Kind();
-  const bool panel_page = property == Property::Value &&
-                          (kind == ControlKind::TabPanel || kind == ControlKind::PagePanel);
-  if (bound.widget) {
-    applying_ = true;
-    Apply(bound, property);
-    applying_ = false;
-  }
-  if (panel_page || property == Property::Visible || property == Property::Bounds) SyncVisibility();
-  if (panel_page && kind == ControlKind::TabPanel && on_page_change) on_page_change();
-}
-
-void WindowCanvas::Apply(const Bound& bound, Property property) {
-  const Control& control = *bound.control;
-  QWidget* widget = bound.widget;
-  switch (property) {
-    case Property::Text:
-      ApplyText(bound);
-      break;
-    case Property::Value:
-      ApplyValue(bound);
-      break;
-    case Property::Rows:
-      ApplyRows(bound);
-      break;
-    case Property::ListIndex:
-      ApplyListIndex(bound);
-      break;
-    case Property::Enabled:
-      widget->setEnabled(control.Enabled());
-      break;
-    case Property::Visible:
-      break;  // SyncVisibility
-    case Property::HelpTag:
-      // The tag is the tip and, for those who can't see it, the description.
-      widget->setToolTip(Q(control.HelpTag()));
-      widget->setAccessibleDescription(Q(control.HelpTag()));
-      break;
-    case Property::TextColor:
-    case Property::TextSize:
-      ApplyLook(bound);
-      break;
-    case Property::Bounds:
-      widget->setGeometry(control.Left(), control.Top(), control.Width(), control.Height());
-      break;
-    case Property::Maximum:
-      if (auto* bar = qobject_cast<QProgressBar*>(widget)) bar->setMaximum(control.Maximum());
-      break;
-    case Property::Selection:
-      if (!user_editing_) ShowSelection(widget, control);
-      break;
-  }
-  // A canvas paints from its control's state (a toolbar button's caption and selection).
-  if (control.Kind() == ControlKind::Canvas) widget->update();
-}
-
-void WindowCanvas::ApplyText(const Bound& bound) {
-  const Control& control = *bound.control;
-  QWidget* widget = bound.widget;
-  const QString name = Q(control.Name());
-  if (auto* key = qobject_cast<KeyButton*>(widget)) {
-    const QString caption = Q(control.Text());
-    key->SetRuns(KeyCaptionRuns(name, caption));
-  } else if (auto* label = qobject_cast<QLabel*>(widget)) {
-    label->setText(ToScreen(control.Text()));
-  } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-    const QString text = Q(control.Text());
-    if (edit->text() != text) {
-      edit->setText(text);
-      ShowSelection(edit, control);  // setText put the caret at the end
-    }
-  } else if (auto* area = qobject_cast<QPlainTextEdit*>(widget)) {
-    const QString text = ToScreen(control.Text());
-    if (area->toPlainText() != text) {
-      const bool was = applying_;
-      applying_ = true;
-      area->setPlainText(text);
-      ShowSelection(area, control);  // setPlainText put the caret at the start
-      applying_ = was;
-    }
-  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-    button->setText(Caption(control.Text()));
-  } else if (auto* picture = qobject_cast<PictureCanvas*>(widget)) {
-    picture->SetPictureName(Q(control.Text()));
-  } else if (auto* box = qobject_cast<QGroupBox*>(widget)) {
-    box->setTitle(Caption(control.Text()));
-  }
-  SetAccessibleName(*widget, AccessibleNameFor(control));
-}
-
-void WindowCanvas::ApplyValue(const Bound& bound) {
-  const Control& control = *bound.control;
-  QWidget* widget = bound.widget;
-  if (auto* key = qobject_cast<KeyButton*>(widget)) {
-    key->SetShownDown(control.IsDown());
-  } else if (auto* push = qobject_cast<QPushButton*>(widget)) {
-    push->setDown(control.IsDown());
-  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-    const QSignalBlocker block(button);
-    button->setChecked(control.Value() != 0);
-  } else if (auto* panel = qobject_cast<TabPanelWidget*>(widget)) {
-    panel->SetCurrentPage(control.Value());
-  } else if (auto* bar = qobject_cast<QProgressBar*>(widget)) {
-    bar->setValue(control.Value());
-  }
-}
-
-void WindowCanvas::ApplyRows(const Bound& bound) {
-  const Control& control = *bound.control;
-  QStringList rows;
-  for (const std::string& row : control.Rows()) rows << Q(row);
-  if (auto* combo = qobject_cast<QComboBox*>(bound.widget)) {
-    const QSignalBlocker block(combo);
-    combo->clear();
-    combo->addItems(rows);
-    combo->setCurrentIndex(control.ListIndex());
-  } else if (auto* list = qobject_cast<QListWidget*>(bound.widget)) {
-    const QSignalBlocker block(list);
-    list->clear();
-    list->addItems(rows);
-    list->setCurrentRow(control.ListIndex());
-  } else if (auto* panel = qobject_cast<TabPanelWidget*>(bound.widget)) {
-    panel->SetTabs(rows);
-    panel->SetCurrentPage(control.Value());
-  }
-}
-
-void WindowCanvas::ApplyListIndex(const Bound& bound) {
-  const int index = bound.control->ListIndex();
-  if (auto* combo = qobject_cast<QComboBox*>(bound.widget)) {
-    const QSignalBlocker block(combo);
-    combo->setCurrentIndex(index);
-  } else if (auto* list = qobject_cast<QListWidget*>(bound.widget)) {
-    const QSignalBlocker block(list);
-    list->setCurrentRow(index);
-  }
-}
-
-void WindowCanvas::ApplyLook(const Bound& bound) {
-  const Control& control = *bound.control;
-  QWidget* widget = bound.widget;
-  const ControlLook look = LookFor(control);
-  const QFont font = FontFor(control, QApplication::font());
-  if (auto* panel = qobject_cast<TabPanelWidget*>(widget))
-    panel->SetBarFont(font);
-  else
-    widget->setFont(font);
-  if (auto* label = qobject_cast<QLabel*>(widget)) label->setAlignment(look.alignment);
-  if (auto* key = qobject_cast<KeyButton*>(widget)) key->SetFaceColor(look.background);
-
-  // The text colour for the active and inactive window; a disabled control keeps
-  // the style's grey. Black is no colour of the program's: such text follows the
-  // palette (light on a dark one), except on a key with a face of its own.
-  QPalette palette;
-  if (control.TextColor() != 0 || look.background.isValid()) {
-    const QColor color = QColor::fromRgb(control.TextColor());
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
-      for (const QPalette::ColorRole role :
-           {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
-        palette.setColor(group, role, color);
-  }
-  // A face of the program's own (the display's) stays in any palette.
-  if (look.background.isValid() && !qobject_cast<KeyButton*>(widget))
-    palette.setColor(QPalette::Base, look.background);
-  widget->setPalette(palette);
 }
 
 }  // namespace tessarine::desktop
