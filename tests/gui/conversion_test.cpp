@@ -31,8 +31,7 @@ class ConversionTest : public GuiSuite {
 
  private slots:
   void choosingUnitsAndPressingConvert() {
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     auto* panel = qobject_cast<TabPanelWidget*>(f_->Widget("CalcTabSelector"));
     QVERIFY(panel);
     QTabBar* bar = panel->Bar();

@@ -18,8 +18,7 @@ class ExpressionTest : public GuiSuite {
  private:
   // Advanced mode on the Expression page, the field clicked (its hint gone).
   QPlainTextEdit* OpenField() {
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     f_->Calc().Get("CalcTabSelector").SetValue(4);
     auto* field = qobject_cast<QPlainTextEdit*>(f_->Widget("ExpressionField"));
     if (!field) return nullptr;

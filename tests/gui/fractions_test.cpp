@@ -14,8 +14,7 @@ class FractionsTest : public GuiSuite {
 
  private:
   void OpenTab() {
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     f_->Calc().Get("CalcTabSelector").SetValue(3);
   }
   QLineEdit* Field(const char* name) { return qobject_cast<QLineEdit*>(f_->Widget(name)); }

@@ -57,6 +57,11 @@ class GuiFixture {
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   // Lets the mode switch's animation end.
   void WaitForResize();
+  // A click on the MORE/LESS key, then the animation's end.
+  void ToggleAdvanced() {
+    Click("ShowAdvancedFeaturesButton");
+    WaitForResize();
+  }
 
   // Texts of the message boxes closed by the watchdog since the last call.
   QStringList TakeDialogs();

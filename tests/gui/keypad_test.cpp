@@ -64,8 +64,7 @@ class KeypadTest : public GuiSuite {
 
   void memoryListOpensAtThePointerAndTakesARow() {
     // The memory keys show below the keypad in advanced mode.
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     f_->Click("Button5");
     f_->Click("StoragePlusButton");  // in the middle of the key
     QWidget* key = f_->Widget("StoragePlusButton");
@@ -121,8 +120,7 @@ class KeypadTest : public GuiSuite {
     };
     QCOMPARE(check_locked(true), QString());
     QVERIFY(f_->Widget("ButtonClear")->isEnabled());
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     QVERIFY(!f_->Widget("ButtonSine")->isEnabled());
     QCOMPARE(check_locked(true), QString());
     f_->Click("ButtonClear");

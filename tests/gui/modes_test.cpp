@@ -60,8 +60,7 @@ class ModesTest : public GuiSuite {
   }
 
   void tabsShowOnlyTheirPage() {
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     auto* panel = qobject_cast<TabPanelWidget*>(f_->Widget("CalcTabSelector"));
     QVERIFY(panel);
     QCOMPARE(panel->Bar()->count(), 5);
@@ -81,8 +80,7 @@ class ModesTest : public GuiSuite {
   }
 
   void fieldsTakeTheKeysOnlyWhenClicked() {
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     // No control holds the focus at start: keys reach the keypad.
     QVERIFY(!f_->View().focusWidget() || !f_->View().focusWidget()->hasFocus());
     f_->Calc().Get("CalcTabSelector").SetValue(4);
@@ -105,16 +103,14 @@ class ModesTest : public GuiSuite {
   }
 
   void leavingAdvancedModeClearsTheFocus() {
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     f_->Calc().Get("CalcTabSelector").SetValue(3);
     f_->Calc().Get("FractionPagePanel").SetValue(0);
     auto* whole = qobject_cast<QLineEdit*>(f_->Widget("whole1"));
     QVERIFY(whole);
     QTest::mouseClick(whole, Qt::LeftButton);
     QVERIFY(whole->hasFocus());
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     QVERIFY(!whole->hasFocus());
     f_->Type(QStringLiteral("4"));
     QCOMPARE(f_->DisplayText(), QStringLiteral("4"));

@@ -20,8 +20,7 @@ class StatisticsTest : public GuiSuite {
   // The Stats page on show, with 1 2 3 in sample 1, 2 3 4 in sample 2 and 3 4 5 in
   // sample 3, typed with Shift+1 as the Input key.
   void FeedSamples() {
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     f_->Calc().Get("CalcTabSelector").SetValue(2);  // the Stats page
     const char* samples[] = {"1!2!3!", "2!3!4!", "3!4!5!"};
     for (int i = 0; i < 3; ++i) {

@@ -46,8 +46,7 @@ class ViewTest : public GuiSuite {
 
  private slots:
   void everyShownControlHasItsWidget() {
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     CalcWindow& calc = f_->Calc();
     WindowCanvas& canvas = f_->View().Canvas();
     QSet<const Control*> seen;
@@ -101,8 +100,7 @@ class ViewTest : public GuiSuite {
     for (int x = 0; x < face.width(); ++x)
       white = white || qGray(face.pixel(x, face.height() / 2)) > 230;
     QVERIFY(white);
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     QCOMPARE(QFontInfo(f_->Widget("ButtonSquared")->font()).family(),
              QStringLiteral("Liberation Serif"));
     auto* url = qobject_cast<QLabel*>(f_->Widget("BrindleyURL"));
@@ -112,8 +110,7 @@ class ViewTest : public GuiSuite {
   }
 
   void keysCarryTheirMarks() {
-    f_->Click("ShowAdvancedFeaturesButton");
-    f_->WaitForResize();
+    f_->ToggleAdvanced();
     const auto runs = [this](const char* name) {
       QString text;
       for (const CaptionRun& run : qobject_cast<KeyButton*>(f_->Widget(name))->Runs())

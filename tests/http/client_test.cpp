@@ -28,13 +28,14 @@ using Lines = std::vector<std::string>;
 const std::string kGetRequest =
     "GET /a/b.txt HTTP/1.1\r\nUser-Agent: BasicHTTP/1.0\r\nHost: 127.0.0.1\r\n"
     "Connection: close\r\n\r\n";
-const Lines kStart = {"Progress Looking Up Host...", "Progress Waiting For Reply...", "Connected",
-                      "Progress Receiving Data..."};
+const Lines kConnect = {"Progress Looking Up Host...", "Progress Waiting For Reply...",
+                        "Connected"};
 
 Lines Concat(Lines a, const Lines& b) {
   a.insert(a.end(), b.begin(), b.end());
   return a;
 }
+const Lines kStart = Concat(kConnect, {"Progress Receiving Data..."});
 
 Lines PageEvents(int code, const std::string& type, const std::string& page) {
   return Concat(kStart, {"Headers " + std::to_string(code) + " 0 0", "Progress Download Complete!",
@@ -120,62 +121,53 @@ TEST(HttpClient, RepliesToAPlainGet) {
       "HTTP/1.1 200 OK\r\n" + std::string(100000, 'X') + ": y\r\nContent-Length: 2\r\n\r\nok";
   const PageCase cases[] = {
       {"one_read",
-       {{"HTTP/1.1 200 OK\r\nContent-Type: text/plain; charset=x\r\nContent-Length: "
-         "5\r\n\r\nhello"}},
+       Reply{{"HTTP/1.1 200 OK\r\nContent-Type: text/plain; charset=x\r\nContent-Length: "
+              "5\r\n\r\nhello"}},
        PageEvents(200, "text/plain", "hello")},
-      {"one_byte_at_a_time",
-       {Bytes("HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nabc"), 1},
+      {"one_byte_at_a_time", Reply{Bytes("HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nabc"), 1},
        PageEvents(200, "", "abc")},
-      {"lf_only", {{"HTTP/1.1 200 OK\nContent-Length: 5\n\nhello"}}, PageEvents(200, "", "hello")},
+      {"lf_only", Reply{{"HTTP/1.1 200 OK\nContent-Length: 5\n\nhello"}},
+       PageEvents(200, "", "hello")},
       {"chunked_with_extensions_and_trailer",
-       {{"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5;ext=1\r\nhello\r\n",
-         "6\r\n world\r\n0\r\nTrailer: x\r\n\r\n"},
-        10},
+       Reply{{"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5;ext=1\r\nhello\r\n",
+              "6\r\n world\r\n0\r\nTrailer: x\r\n\r\n"},
+             10},
        PageEvents(200, "", "hello world")},
       {"close_delimited",
-       {{"HTTP/1.0 200 OK\r\nContent-Type: text/html\r\n\r\nuntil ", "close"}, 10},
+       Reply{{"HTTP/1.0 200 OK\r\nContent-Type: text/html\r\n\r\nuntil ", "close"}, 10},
        PageEvents(200, "text/html", "until close")},
-      {"no_content_204", {{"HTTP/1.1 204 No Content\r\n\r\n"}}, PageEvents(204, "", "")},
-      {"zero_length_waits_for_close",
-       {{"HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n"}},
+      {"no_content_204", Reply{{"HTTP/1.1 204 No Content\r\n\r\n"}}, PageEvents(204, "", "")},
+      {"zero_length_waits_for_close", Reply{{"HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n"}},
        PageEvents(200, "", "")},
-      {"not_modified_304", {{"HTTP/1.1 304 Not Modified\r\n\r\n"}}, PageEvents(304, "", "")},
+      {"not_modified_304", Reply{{"HTTP/1.1 304 Not Modified\r\n\r\n"}}, PageEvents(304, "", "")},
       {"unauthorized_401_delivers_body",
-       {{"HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic\r\n\r\ndenied"}},
+       Reply{{"HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic\r\n\r\ndenied"}},
        PageEvents(401, "", "denied")},
       {"continue_100_then_reply_as_body",
-       {{"HTTP/1.1 100 Continue\r\n\r\n", "HTTP/1.1 200 OK\r\n\r\nhi"}, 50},
+       Reply{{"HTTP/1.1 100 Continue\r\n\r\n", "HTTP/1.1 200 OK\r\n\r\nhi"}, 50},
        Concat(kStart, {"Headers 100 1 0", "Progress Download Complete!",
                        "Page |HTTP/1.1 200 OK\r\n\r\nhi|0"})},
-      {"huge_header_that_ends", {{huge_but_whole}}, PageEvents(200, "", "ok")},
-      {"not_found_404",
-       {{"HTTP/1.1 404 Not Found\r\nContent-Length: 3\r\n\r\nno!"}},
+      {"huge_header_that_ends", Reply{{huge_but_whole}}, PageEvents(200, "", "ok")},
+      {"not_found_404", Reply{{"HTTP/1.1 404 Not Found\r\nContent-Length: 3\r\n\r\nno!"}},
        Concat(kStart, {"ProtocolError 404", "Cancelled"})},
-      {"server_error_500",
-       {{"HTTP/1.1 500 Oops\r\n\r\n"}},
+      {"server_error_500", Reply{{"HTTP/1.1 500 Oops\r\n\r\n"}},
        Concat(kStart, {"ProtocolError 500", "Cancelled"})},
-      {"garbage_status_line",
-       {{"I am no server\r\n\r\n"}},
+      {"garbage_status_line", Reply{{"I am no server\r\n\r\n"}},
        Concat(kStart, {"ProtocolError 0", "Cancelled"})},
-      {"cut_short",
-       {{"HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\nabc"}},
+      {"cut_short", Reply{{"HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\nabc"}},
        Concat(kStart, {"Headers 200 0 0", "TCPError 102", "Cancelled"})},
-      {"reset_mid_body",
-       {{"HTTP/1.1 200 OK\r\n\r\npart"}, 0, End::kReset},
+      {"reset_mid_body", Reply{{"HTTP/1.1 200 OK\r\n\r\npart"}, 0, End::kReset},
        Concat(kStart, {"Headers 200 0 0", "TCPError 105", "Cancelled"})},
-      {"closed_before_header",
-       {{"HTTP/1.1 200 OK\r\n"}},
-       {"Progress Looking Up Host...", "Progress Waiting For Reply...", "Connected", "TCPError 102",
-        "Cancelled"}},
+      {"closed_before_header", Reply{{"HTTP/1.1 200 OK\r\n"}},
+       Concat(kConnect, {"TCPError 102", "Cancelled"})},
       {"header_never_ends",
-       {{"HTTP/1.1 200 OK\r\n" + std::string(300 * 1024, 'h')}, 0, End::kStall},
-       {"Progress Looking Up Host...", "Progress Waiting For Reply...", "Connected", "TCPError 120",
-        "Cancelled"}},
+       Reply{{"HTTP/1.1 200 OK\r\n" + std::string(300 * 1024, 'h')}, 0, End::kStall},
+       Concat(kConnect, {"TCPError 120", "Cancelled"})},
       {"page_over_cap",
-       {{"HTTP/1.1 200 OK\r\n\r\n", std::string(BasicHTTP::kMaxPageBytes + 1, 'p')}},
+       Reply{{"HTTP/1.1 200 OK\r\n\r\n", std::string(BasicHTTP::kMaxPageBytes + 1, 'p')}},
        Concat(kStart, {"Headers 200 0 0", "TCPError 121", "Cancelled"})},
       {"cookie_offered_not_sent_back",
-       {{"HTTP/1.1 200 OK\r\nSet-Cookie: id=7; path=/a\r\nContent-Length: 1\r\n\r\nx"}},
+       Reply{{"HTTP/1.1 200 OK\r\nSet-Cookie: id=7; path=/a\r\nContent-Length: 1\r\n\r\nx"}},
        Concat(kStart,
               {"Cookie id=7 0", "Headers 200 0 0", "Progress Download Complete!", "Page |x|0"})},
   };
@@ -361,51 +353,27 @@ TEST(HttpClient, FileModes) {
   const std::string body(100000, 'b');
   const std::string sized = "HTTP/1.1 200 OK\r\nContent-Type: application/x\r\nContent-Length: " +
                             std::to_string(body.size()) + "\r\n\r\n";
+  using Start = void (BasicHTTP::*)(const std::string&, const std::string&);
+  const Start download = &BasicHTTP::Download, grab = &BasicHTTP::Grab, resume = &BasicHTTP::Resume;
   const struct {
     const char* name;
+    Start start;
+    std::string file_before, want_last, want_file;
     Reply reply;
-    std::function<void(BasicHTTP&, const std::string& url, const std::string& file)> start;
-    std::string file_before;
-    std::string want_last;
-    std::string want_file;
   } cases[] = {
-      {"download_with_length",
-       {{sized, body}, 5},
-       [](BasicHTTP& h, auto& u, auto& f) { h.Download(u, f); },
-       "old",
-       "File application/x|0",
-       body},
-      {"chunked_file_keeps_chunk_lines",
-       {{"HTTP/1.1 200 OK\r\nContent-Type: a/b\r\nTransfer-Encoding: "
-         "chunked\r\n\r\n3\r\nabc\r\n0\r\n\r\n"}},
-       [](BasicHTTP& h, auto& u, auto& f) { h.Download(u, f); },
-       "",
-       "File a/b|0",
-       "3\r\nabc\r\n0\r\n\r\n"},
-      {"grab_binary_to_file",
-       {{sized, body}, 5},
-       [](BasicHTTP& h, auto& u, auto& f) { h.Grab(u, f); },
-       "",
-       "File application/x|1",
-       body},
-      {"grab_text_in_memory",
-       {{"HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\n\r\nhi"}},
-       [](BasicHTTP& h, auto& u, auto& f) { h.Grab(u, f); },
-       "",
-       "Page text/plain|hi|1",
-       ""},
-      {"resume_accepted",
-       {{"HTTP/1.1 206 Partial\r\nContent-Length: 3\r\nContent-Range: bytes 3-5/6\r\n\r\ndef"}},
-       [](BasicHTTP& h, auto& u, auto& f) { h.Resume(u, f); },
-       "abc",
-       "File |0",
-       "abcdef"},
-      {"resume_refused",
-       {{"HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\nabcdef"}},
-       [](BasicHTTP& h, auto& u, auto& f) { h.Resume(u, f); },
-       "abc",
-       "Cancelled",
-       "abc"},
+      {"download_with_length", download, "old", "File application/x|0", body,
+       Reply{{sized, body}, 5}},
+      {"chunked_file_keeps_chunk_lines", download, "", "File a/b|0", "3\r\nabc\r\n0\r\n\r\n",
+       Reply{{"HTTP/1.1 200 OK\r\nContent-Type: a/b\r\nTransfer-Encoding: "
+              "chunked\r\n\r\n3\r\nabc\r\n0\r\n\r\n"}}},
+      {"grab_binary_to_file", grab, "", "File application/x|1", body, Reply{{sized, body}, 5}},
+      {"grab_text_in_memory", grab, "", "Page text/plain|hi|1", "",
+       Reply{{"HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\n\r\nhi"}}},
+      {"resume_accepted", resume, "abc", "File |0", "abcdef",
+       Reply{
+           {"HTTP/1.1 206 Partial\r\nContent-Length: 3\r\nContent-Range: bytes 3-5/6\r\n\r\ndef"}}},
+      {"resume_refused", resume, "abc", "Cancelled", "abc",
+       Reply{{"HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\nabcdef"}}},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -415,7 +383,7 @@ TEST(HttpClient, FileModes) {
     ScriptedServer server({c.reply});
     Harness h;
     h.http.BufferSize = 16384;
-    c.start(h.http, Url(server, "/f"), file);
+    (h.http.*c.start)(Url(server, "/f"), file);
     EXPECT_TRUE(h.Run());
     EXPECT_EQ(h.log.back(), c.want_last);
     if (!c.want_file.empty()) {

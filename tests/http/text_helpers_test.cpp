@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "fixed_clock.hpp"
 #include "http/basic_http.hpp"
@@ -143,12 +144,9 @@ TEST(HttpCookie, DatesAndFlags) {
   HTTPCookie cookie(clock);
   cookie.SetDate("Wed, 09-Jun-2021 10:18:14 GMT", false);
   ASSERT_TRUE(cookie.Expires.has_value());
-  EXPECT_EQ(cookie.Expires->Year(), 2021);
-  EXPECT_EQ(cookie.Expires->Month(), 6);
-  EXPECT_EQ(cookie.Expires->Day(), 9);
-  EXPECT_EQ(cookie.Expires->Hour(), 10);
-  EXPECT_EQ(cookie.Expires->Minute(), 18);
-  EXPECT_EQ(cookie.Expires->Second(), 14);
+  const Date& e = *cookie.Expires;
+  EXPECT_EQ(std::vector<int>({e.Year(), e.Month(), e.Day(), e.Hour(), e.Minute(), e.Second()}),
+            std::vector<int>({2021, 6, 9, 10, 18, 14}));
   // Blanks instead of dashes do not parse and give a date far in the past.
   cookie.SetDate("Wed, 09 Jun 2021 10:18:14 GMT", false);
   EXPECT_LT(cookie.Expires->Year(), 1904);

@@ -2,9 +2,11 @@
 // the scrambling, the lossy number form, and the store's get-creates-with-default.
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <string>
 
 #include "runtime/headless/memory_file_system.hpp"
+#include "runtime/numbers.hpp"
 #include "settings/prefs_module.hpp"
 #include "settings/prefs_records.hpp"
 #include "settings/prefs_scramble.hpp"
@@ -39,52 +41,48 @@ TEST(PrefsScramble, ShiftsByTheLengthWithOneCorrection) {
   EXPECT_EQ(Decode(Encode("π ÷ √")), "π ÷ √");
 }
 
-TEST(PrefsRecords, ReadsEveryRecordType) {
-  const std::string file = Head(1, true, "On") + Bytes({1}) +    // boolean, scrambled
-                           Head(1, false, "Off") + Bytes({7}) +  // any other byte is false
-                           Head(2, false, "I32") + Bytes({0xFF, 0xFF, 0xFF, 0xFE}) +  // -2
-                           Head(3, false, "B") + Bytes({200}) +           // an unsigned byte
-                           Head(4, false, "I16") + Bytes({0x01, 0x00}) +  // 256
-                           Head(5, true, "Name") + Bytes({0, 5}) + Encode("Hello") +
-                           Head(6, false, "Colour") + Bytes({255, 0, 128}) + Head(7, true, "Pi") +
-                           Bytes({0, 0, 0, 3, 0, 0, 0, 14});  // 3 and 14: 3.14
-  const PrefsData data = ParsePrefsFile(file, ".");
-  ASSERT_EQ(data.booleans.size(), 2u);
-  EXPECT_EQ(data.booleans[0].key, "On");
-  EXPECT_TRUE(data.booleans[0].value);
-  EXPECT_TRUE(data.booleans[0].scrambled);
-  EXPECT_FALSE(data.booleans[1].value);
-  ASSERT_EQ(data.numbers.size(), 4u);
-  EXPECT_EQ(data.numbers[0].value, -2);
-  EXPECT_EQ(data.numbers[1].value, 200);
-  EXPECT_EQ(data.numbers[2].value, 256);
-  EXPECT_EQ(data.numbers[3].key, "Pi");
-  EXPECT_DOUBLE_EQ(data.numbers[3].value, 3.14);
-  ASSERT_EQ(data.strings.size(), 1u);
-  EXPECT_EQ(data.strings[0].value, "Hello");
-  ASSERT_EQ(data.colors.size(), 1u);
-  EXPECT_EQ(data.colors[0].value, Bytes({255, 0, 128}));
+// Every entry as "family key=value", "*" marking a scrambled one; colours in hex.
+std::string Describe(const PrefsData& data) {
+  std::string out;
+  const auto add = [&](const char* family, const auto& entry, const std::string& value) {
+    out += (out.empty() ? "" : ", ") + std::string(family) + entry.key + "=" + value +
+           (entry.scrambled ? "*" : "");
+  };
+  for (const auto& e : data.booleans) add("b ", e, e.value ? "1" : "0");
+  for (const auto& e : data.strings) add("s ", e, e.value);
+  for (const auto& e : data.colors) {
+    std::string hex;
+    char byte[3];
+    for (const char c : e.value)
+      hex += (std::snprintf(byte, sizeof byte, "%02x", static_cast<unsigned char>(c)), byte);
+    add("c ", e, hex);
+  }
+  for (const auto& e : data.numbers) add("n ", e, Str(e.value));
+  return out;
 }
 
-TEST(PrefsRecords, DamageYieldsWhatCouldBeRead) {
-  // An unknown type drops its key and skips no payload: the next byte starts a record.
-  const std::string unknown = Head(9, false, "X") + Head(1, false, "After") + Bytes({1});
-  const PrefsData a = ParsePrefsFile(unknown, ".");
-  ASSERT_EQ(a.booleans.size(), 1u);
-  EXPECT_EQ(a.booleans[0].key, "After");
-  // A string cut short keeps what was there.
-  const PrefsData b = ParsePrefsFile(Head(5, false, "S") + Bytes({0, 10}) + "abc", ".");
-  ASSERT_EQ(b.strings.size(), 1u);
-  EXPECT_EQ(b.strings[0].value, "abc");
-  // A number cut after its whole part reads a fraction of 0.
-  const PrefsData c = ParsePrefsFile(Head(7, false, "N") + Bytes({0, 0, 0, 9}), ".");
-  ASSERT_EQ(c.numbers.size(), 1u);
-  EXPECT_EQ(c.numbers[0].value, 9);
-  // A negative key length reads no key.
-  const PrefsData d = ParsePrefsFile(Bytes({1, 0, 0xFF, 0xFF, 1}), ".");
-  ASSERT_EQ(d.booleans.size(), 1u);
-  EXPECT_EQ(d.booleans[0].key, "");
-  EXPECT_TRUE(ParsePrefsFile("", ".").numbers.empty());
+TEST(PrefsRecords, ReadsEveryRecordTypeAndWhatDamageLeaves) {
+  const struct {
+    const char* name;
+    std::string file, want;
+  } cases[] = {
+      {"every_type",
+       Head(1, true, "On") + Bytes({1}) +        // boolean, scrambled
+           Head(1, false, "Off") + Bytes({7}) +  // any other byte is false
+           Head(2, false, "I32") + Bytes({0xFF, 0xFF, 0xFF, 0xFE}) + Head(3, false, "B") +
+           Bytes({200}) + Head(4, false, "I16") + Bytes({0x01, 0x00}) + Head(5, true, "Name") +
+           Bytes({0, 5}) + Encode("Hello") + Head(6, false, "Colour") + Bytes({255, 0, 128}) +
+           Head(7, true, "Pi") + Bytes({0, 0, 0, 3, 0, 0, 0, 14}),  // 3 and 14: 3.14
+       "b On=1*, b Off=0, s Name=Hello*, c Colour=ff0080, n I32=-2, n B=200, n I16=256, n "
+       "Pi=3.14*"},
+      // An unknown type drops its key and skips no payload: the next byte starts a record.
+      {"unknown_type", Head(9, false, "X") + Head(1, false, "After") + Bytes({1}), "b After=1"},
+      {"string_cut_short", Head(5, false, "S") + Bytes({0, 10}) + "abc", "s S=abc"},
+      {"number_cut_after_whole_part", Head(7, false, "N") + Bytes({0, 0, 0, 9}), "n N=9"},
+      {"negative_key_length", Bytes({1, 0, 0xFF, 0xFF, 1}), "b =1"},
+      {"empty", "", ""},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Describe(ParsePrefsFile(c.file, ".")), c.want) << c.name;
 }
 
 TEST(PrefsRecords, NumbersTravelAsTextAndLoseWhatTheFormLoses) {
