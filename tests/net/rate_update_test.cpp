@@ -97,6 +97,8 @@ TEST_F(RateUpdateTest, FailuresKeepTheTable) {
        std::vector<Reply>{Reply{{header, "Euro: 1.1"}, 20, End::kReset}}},
       {"404 is silent", "Cancel", "Connecting to server...", false,
        std::vector<Reply>{Reply{{"HTTP/1.1 404 Not Found\r\nContent-Length: 9\r\n\r\nNot Found"}}}},
+      {"stall waits", "Cancel", "Connecting to server...", false,
+       std::vector<Reply>{Reply{{}, 0, End::kStall}}},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);

@@ -82,16 +82,20 @@ TEST_F(UpdateCheckTest, RefusedConnection) {
             "Error: Could not connect to Brindley Software server.");
 }
 
-TEST_F(UpdateCheckTest, BadStatusLeavesTheWindowTurningUntilCancel) {
-  ScriptedServer server({Reply{{"HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n"}}});
-  CheckByHand(server.port());
-  Window& asking = Open(VersionUpdateWindow::kName);
-  EXPECT_TRUE(asking.Get("CheckForUpdateChasingArrows").Visible());
-  EXPECT_FALSE(asking.Get("ButtonOK").Enabled());
-  EXPECT_EQ(asking.Get("InternetUpdateStatus").Text(), "Comparing versions...");
-  asking.Get("ButtonCancel").Click();
-  EXPECT_FALSE(IsOpen(VersionUpdateWindow::kName));
-  EXPECT_FALSE(IsOpen(VersionUpdateErrorWindow::kName));
+TEST_F(UpdateCheckTest, BadStatusOrStallLeavesTheWindowTurningUntilCancel) {
+  for (const Reply& reply : {Reply{{"HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n"}},
+                             Reply{{}, 0, Reply::End::kStall}}) {
+    ScriptedServer server({reply});
+    CheckByHand(server.port());
+    Net(500);
+    Window& asking = Open(VersionUpdateWindow::kName);
+    EXPECT_TRUE(asking.Get("CheckForUpdateChasingArrows").Visible());
+    EXPECT_FALSE(asking.Get("ButtonOK").Enabled());
+    EXPECT_EQ(asking.Get("InternetUpdateStatus").Text(), "Comparing versions...");
+    asking.Get("ButtonCancel").Click();
+    EXPECT_FALSE(IsOpen(VersionUpdateWindow::kName));
+    EXPECT_FALSE(IsOpen(VersionUpdateErrorWindow::kName));
+  }
 }
 
 }  // namespace
