@@ -57,8 +57,7 @@ void QtSocket::Drop() {
   ++generation_;
   state_ = State::kIdle;
   pull_posted_ = false;
-  in_.clear();
-  in_pos_ = 0;
+  in_.Clear();
   out_.clear();
 }
 
@@ -111,13 +110,11 @@ void QtSocket::Write(std::string_view bytes) {
 
 bool QtSocket::Pull() {
   if (tcp_ == nullptr) return false;
-  const std::size_t unread = in_.size() - in_pos_;
+  const std::size_t unread = in_.UnreadSize();
   if (unread >= kHighWater) return false;
   const QByteArray bytes = tcp_->read(static_cast<qint64>(kHighWater - unread));
   if (bytes.isEmpty()) return false;
-  in_.erase(0, in_pos_);
-  in_pos_ = 0;
-  in_.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+  in_.Append(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
   return true;
 }
 
@@ -139,7 +136,7 @@ void QtSocket::OnError(QAbstractSocket::SocketError error) {
   // The last bytes come first, then the error.
   const QByteArray rest = state_ == State::kConnected ? tcp_->readAll() : QByteArray();
   if (!rest.isEmpty()) {
-    in_.append(rest.constData(), static_cast<std::size_t>(rest.size()));
+    in_.Append(std::string_view(rest.constData(), static_cast<std::size_t>(rest.size())));
     const std::weak_ptr<bool> alive = alive_;
     const std::uint64_t generation = generation_;
     if (listener_ != nullptr) listener_->SocketDataAvailable();
@@ -158,21 +155,13 @@ void QtSocket::Fail(int code) {
 }
 
 std::string QtSocket::Read(std::size_t n) {
-  const std::size_t take = std::min(n, in_.size() - in_pos_);
-  std::string out = in_.substr(in_pos_, take);
-  in_pos_ += take;
-  if (in_pos_ == in_.size()) {
-    in_.clear();
-    in_pos_ = 0;
-  }
+  std::string out = in_.Take(n);
   ResumeReading();
   return out;
 }
 
 std::string QtSocket::ReadAll() {
-  std::string out = in_.substr(in_pos_);
-  in_.clear();
-  in_pos_ = 0;
+  std::string out = in_.TakeAll();
   ResumeReading();
   return out;
 }

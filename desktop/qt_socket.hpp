@@ -8,6 +8,7 @@
 #include <string>
 
 #include "runtime/platform/socket.hpp"
+#include "runtime/platform/socket_input.hpp"
 
 class QTcpSocket;
 
@@ -30,7 +31,7 @@ class QtSocket final : public Socket {
   void Write(std::string_view bytes) override;
   std::string Read(std::size_t n) override;
   std::string ReadAll() override;
-  std::string_view Lookahead() const override { return std::string_view(in_).substr(in_pos_); }
+  std::string_view Lookahead() const override { return in_.Unread(); }
   void Close() override;
   int LastErrorCode() const override { return last_error_; }
   bool IsConnected() const override { return state_ == State::kConnected; }
@@ -60,8 +61,7 @@ class QtSocket final : public Socket {
   State state_ = State::kIdle;
   int last_error_ = kSocketNoError;
   bool pull_posted_ = false;
-  std::string in_;
-  std::size_t in_pos_ = 0;
+  SocketInput in_;
   std::string out_;
 };
 

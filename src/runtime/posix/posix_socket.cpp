@@ -18,6 +18,8 @@
 #include <utility>
 #include <vector>
 
+#include "runtime/platform/socket_input.hpp"
+
 namespace tessarine {
 namespace posix_socket_detail {
 
@@ -128,7 +130,7 @@ class PosixSocket final : public Socket {
   void Write(std::string_view bytes) override;
   std::string Read(std::size_t n) override;
   std::string ReadAll() override;
-  std::string_view Lookahead() const override { return std::string_view(in_).substr(in_pos_); }
+  std::string_view Lookahead() const override { return in_.Unread(); }
   void Close() override;
   int LastErrorCode() const override { return last_error_; }
   bool IsConnected() const override { return state_ == State::kConnected; }
@@ -172,8 +174,7 @@ class PosixSocket final : public Socket {
   std::shared_ptr<LookupJob> lookup_;
   std::vector<sockaddr_storage> addresses_;
   std::size_t next_address_ = 0;
-  std::string in_;
-  std::size_t in_pos_ = 0;
+  SocketInput in_;
   std::string out_;
 };
 
@@ -190,8 +191,7 @@ void PosixSocket::Close() {
   lookup_.reset();
   addresses_.clear();
   next_address_ = 0;
-  in_.clear();
-  in_pos_ = 0;
+  in_.Clear();
   out_.clear();
 }
 
@@ -299,26 +299,11 @@ void PosixSocket::FlushOut() {
 }
 
 std::string PosixSocket::Read(std::size_t n) {
-  const std::size_t take = std::min(n, in_.size() - in_pos_);
-  std::string out = in_.substr(in_pos_, take);
-  in_pos_ += take;
-  if (in_pos_ == in_.size()) {
-    in_.clear();
-    in_pos_ = 0;
-  }
-  return out;
+  return in_.Take(n);
 }
 
 std::string PosixSocket::ReadAll() {
-  std::string out;
-  if (in_pos_ == 0) {
-    out.swap(in_);
-  } else {
-    out = in_.substr(in_pos_);
-    in_.clear();
-  }
-  in_pos_ = 0;
-  return out;
+  return in_.TakeAll();
 }
 
 short PosixSocket::PollEvents() const {
@@ -326,7 +311,7 @@ short PosixSocket::PollEvents() const {
   if (state_ == State::kConnecting) return POLLOUT;
   if (state_ != State::kConnected || pending_connected_) return 0;
   short events = 0;
-  if (in_.size() - in_pos_ < kHighWater) events |= POLLIN;
+  if (in_.UnreadSize() < kHighWater) events |= POLLIN;
   if (!out_.empty()) events |= POLLOUT;
   return events;
 }
@@ -403,10 +388,8 @@ void PosixSocket::Service(short revents) {
   }
   if ((revents & (POLLIN | POLLHUP | POLLERR)) == 0) return;
 
-  const std::size_t old = in_.size();
-  in_.resize(old + kReadChunk);
-  const ssize_t n = recv(fd_, in_.data() + old, kReadChunk, 0);
-  in_.resize(old + static_cast<std::size_t>(n > 0 ? n : 0));
+  const ssize_t n = recv(fd_, in_.Reserve(kReadChunk), kReadChunk, 0);
+  in_.Commit(static_cast<std::size_t>(n > 0 ? n : 0));
   if (n > 0) {
     if (listener_ != nullptr) listener_->SocketDataAvailable();
     return;
