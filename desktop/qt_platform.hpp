@@ -23,7 +23,7 @@
 #include <string>
 #include <vector>
 
-#include "qt_socket.hpp"
+#include "socket_pump.hpp"
 #include "runtime/platform/platform.hpp"
 #include "runtime/posix/posix_file_system.hpp"
 
@@ -148,7 +148,7 @@ class QtPlatform final : public QObject,
   std::unique_ptr<FeedbackModule> feedback_;
   bool feedback_tried_ = false;  // one attempt: a module that is missing stays missing
   PosixFileSystem files_;
-  QtSocketFactory sockets_;
+  SocketPump sockets_;
   Platform platform_;
   WindowHost* host_ = nullptr;
   QElapsedTimer elapsed_;

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <string>
@@ -107,11 +108,18 @@ class Hub {
   }
   const std::shared_ptr<WakePipe>& wake() const { return wake_; }
   bool Pump(int max_wait_ms);
+  std::vector<PosixSocketFactory::Watch> Watches() const;
+  bool Due() const;
+  void SetOnChange(std::function<void()> on_change) { on_change_ = std::move(on_change); }
+  void Changed() const {
+    if (on_change_) on_change_();
+  }
 
  private:
   std::map<std::uint64_t, PosixSocket*> sockets_;
   std::uint64_t next_id_ = 1;
   std::shared_ptr<WakePipe> wake_;
+  std::function<void()> on_change_;
 };
 
 // One non-blocking TCP connection.
@@ -123,6 +131,7 @@ class PosixSocket final : public Socket {
   ~PosixSocket() override {
     CloseFd();
     hub_->Unregister(id_);
+    hub_->Changed();
   }
 
   void SetListener(SocketListener* listener) override { listener_ = listener; }
@@ -131,7 +140,10 @@ class PosixSocket final : public Socket {
   std::string Read(std::size_t n) override;
   std::string ReadAll() override;
   std::string_view Lookahead() const override { return in_.Unread(); }
-  void Close() override;
+  void Close() override {
+    Reset();
+    hub_->Changed();
+  }
   int LastErrorCode() const override { return last_error_; }
   bool IsConnected() const override { return state_ == State::kConnected; }
 
@@ -140,7 +152,7 @@ class PosixSocket final : public Socket {
   int fd() const { return fd_; }
   std::uint64_t generation() const { return generation_; }
   // Events are due without waiting: a pending one, or a finished lookup.
-  bool Due();
+  bool Due() const;
   bool Busy() const {
     return state_ == State::kLookingUp || state_ == State::kConnecting ||
            state_ == State::kConnected || pending_connected_ || pending_error_;
@@ -153,6 +165,10 @@ class PosixSocket final : public Socket {
   enum class State { kIdle, kLookingUp, kConnecting, kConnected, kFailed };
 
   void CloseFd();
+  // Drops the connection and what it holds.
+  void Reset();
+  // Connect without telling the hub.
+  void Start(const std::string& host, int port);
   void StartConnect();
   void Fail(int code);
   void FlushOut();
@@ -178,12 +194,16 @@ class PosixSocket final : public Socket {
   std::string out_;
 };
 
+// Tells the hub at once, so that no loop goes on watching a closed descriptor, whose
+// number the system may hand to a new file.
 void PosixSocket::CloseFd() {
-  if (fd_ >= 0) close(fd_);
+  if (fd_ < 0) return;
+  close(fd_);
   fd_ = -1;
+  hub_->Changed();
 }
 
-void PosixSocket::Close() {
+void PosixSocket::Reset() {
   CloseFd();
   ++generation_;
   state_ = State::kIdle;
@@ -205,7 +225,12 @@ void PosixSocket::Fail(int code) {
 }
 
 void PosixSocket::Connect(const std::string& host, int port) {
-  Close();
+  Start(host, port);
+  hub_->Changed();
+}
+
+void PosixSocket::Start(const std::string& host, int port) {
+  Reset();
   last_error_ = kSocketNoError;
   port_ = port;
   if (port < 1 || port > 65535) return Fail(kSocketBadPort);
@@ -285,6 +310,7 @@ void PosixSocket::Write(std::string_view bytes) {
   if (state_ == State::kIdle || state_ == State::kFailed) return;
   out_.append(bytes);
   if (state_ == State::kConnected && !pending_connected_) FlushOut();
+  hub_->Changed();
 }
 
 void PosixSocket::FlushOut() {
@@ -298,12 +324,17 @@ void PosixSocket::FlushOut() {
   }
 }
 
+// Reads tell the hub: a socket that stopped reading at the high-water mark reads on.
 std::string PosixSocket::Read(std::size_t n) {
-  return in_.Take(n);
+  std::string bytes = in_.Take(n);
+  hub_->Changed();
+  return bytes;
 }
 
 std::string PosixSocket::ReadAll() {
-  return in_.TakeAll();
+  std::string bytes = in_.TakeAll();
+  hub_->Changed();
+  return bytes;
 }
 
 short PosixSocket::PollEvents() const {
@@ -316,7 +347,7 @@ short PosixSocket::PollEvents() const {
   return events;
 }
 
-bool PosixSocket::Due() {
+bool PosixSocket::Due() const {
   if (pending_connected_ || pending_error_) return true;
   if (state_ != State::kLookingUp || !lookup_) return false;
   const std::lock_guard<std::mutex> lock(lookup_->mutex);
@@ -431,6 +462,23 @@ bool Hub::Pump(int max_wait_ms) {
   return false;
 }
 
+std::vector<PosixSocketFactory::Watch> Hub::Watches() const {
+  std::vector<PosixSocketFactory::Watch> watches;
+  if (wake_->read_fd() >= 0) watches.push_back({wake_->read_fd(), true, false});
+  for (const auto& [id, socket] : sockets_) {
+    const short events = socket->PollEvents();
+    if (events != 0)
+      watches.push_back({socket->fd(), (events & POLLIN) != 0, (events & POLLOUT) != 0});
+  }
+  return watches;
+}
+
+bool Hub::Due() const {
+  for (const auto& [id, socket] : sockets_)
+    if (socket->Due()) return true;
+  return false;
+}
+
 }  // namespace posix_socket_detail
 
 PosixSocketFactory::PosixSocketFactory() : hub_(std::make_shared<posix_socket_detail::Hub>()) {}
@@ -443,6 +491,18 @@ std::unique_ptr<Socket> PosixSocketFactory::NewSocket() {
 
 bool PosixSocketFactory::Pump(int max_wait_ms) {
   return hub_->Pump(max_wait_ms);
+}
+
+std::vector<PosixSocketFactory::Watch> PosixSocketFactory::Watches() const {
+  return hub_->Watches();
+}
+
+bool PosixSocketFactory::Due() const {
+  return hub_->Due();
+}
+
+void PosixSocketFactory::SetOnChange(std::function<void()> on_change) {
+  hub_->SetOnChange(std::move(on_change));
 }
 
 }  // namespace tessarine
