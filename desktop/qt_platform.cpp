@@ -20,6 +20,7 @@
 #include <QUrl>
 #include <QWindow>
 
+#include "audio_server_probe.hpp"
 #include "feedback_module.hpp"
 #include "install_paths.hpp"
 #include "runtime/timer.hpp"
@@ -172,7 +173,10 @@ void QtPlatform::PlaySound(const std::string& name) {
   if (FeedbackModule* feedback = Feedback()) feedback->PlaySound(name);
 }
 
+// With no sound server to play them, the sounds and the audio library would only
+// take memory: the module then loads with the first sound or word instead.
 void QtPlatform::PreloadFeedback() {
+  if (!SoundServerReachable()) return;
   if (FeedbackModule* feedback = Feedback()) feedback->Preload();
 }
 
