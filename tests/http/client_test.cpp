@@ -67,8 +67,7 @@ class Harness {
 
   bool Finished() const {
     for (const std::string& line : log)
-      if (line.starts_with("Page ") || line == "Cancelled")
-        return true;
+      if (line.starts_with("Page ") || line == "Cancelled") return true;
     return false;
   }
 
