@@ -1,10 +1,8 @@
-// The currency list, its default rates, conversions through rate texts, and the rates'
-// place in the preferences file.
+// The currency list, its default rates, and conversions through rate texts.
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstdlib>
-#include <map>
 #include <set>
 #include <string>
 #include <utility>
@@ -95,48 +93,6 @@ TEST(CurrencyConversion, RateTextsReadLikeVal) {
   EXPECT_EQ(Convert(kCurrencyCategory, kDollar, kYen, 4.0, rates).answer, 5.0);
   EXPECT_EQ(Convert(kCurrencyCategory, kYen, kDollar, 5.0, rates).answer, 4.0);
   EXPECT_EQ(Convert(kCurrencyCategory, kEuro, kDollar, 1.0, rates).answer, HUGE_VAL);
-}
-
-// A store of string keys that records how each key was asked for.
-struct FakeStore {
-  std::map<std::string, std::string> values;
-  std::vector<std::string> asked;
-  bool all_encrypted = true;
-  std::string GetStringValue(const std::string& key, const std::string& fallback, bool enc) {
-    asked.push_back(key);
-    all_encrypted = all_encrypted && enc;
-    auto it = values.find(key);
-    return it == values.end() ? fallback : it->second;
-  }
-  void SetStringValue(const std::string& key, const std::string& value, bool enc) {
-    all_encrypted = all_encrypted && enc;
-    values[key] = value;
-  }
-};
-
-TEST(CurrencyPreferences, KeysDefaultsAndStoredTexts) {
-  EXPECT_EQ(CurrencyRateKey(0), "CurrencyRate0");
-  EXPECT_EQ(CurrencyRateKey(46), "CurrencyRate46");
-  EXPECT_STREQ(kCurrencyUpdateTimeAndDateKey, "CurrencyUpdateTimeAndDate");
-  EXPECT_STREQ(kCurrencyUpdateDateKey, "CurrencyUpdateDate");
-  EXPECT_STREQ(kNeverUpdated, "NEVER");
-
-  FakeStore store;
-  store.values["CurrencyRate2"] = "--";
-  store.values["CurrencyRate9"] = "1.7       ";
-  const CurrencyRates rates = ReadCurrencyRates(store);
-  ASSERT_EQ(store.asked.size(), 47u);
-  EXPECT_EQ(store.asked.front(), "CurrencyRate0");
-  EXPECT_EQ(store.asked.back(), "CurrencyRate46");
-  EXPECT_EQ(rates(2), "--");
-  EXPECT_EQ(rates(9), "1.7       ");
-  EXPECT_EQ(rates(kYen), "110.1");
-
-  FakeStore out;
-  WriteCurrencyRates(out, rates);
-  EXPECT_EQ(out.values.size(), 47u);
-  EXPECT_EQ(out.values["CurrencyRate9"], "1.7       ");
-  EXPECT_TRUE(store.all_encrypted && out.all_encrypted);
 }
 
 }  // namespace

@@ -78,10 +78,7 @@ class ConversionTest : public GuiSuite {
   }
 };
 
-int RunConversionTests(int argc, char** argv) {
-  ConversionTest suite;
-  return QTest::qExec(&suite, argc, argv);
-}
+TESSARINE_GUI_SUITE(ConversionTest, "conversion");
 
 }  // namespace tessarine::desktop::testing
 

@@ -118,10 +118,7 @@ class DesktopTest : public GuiSuite {
   }
 };
 
-int RunDesktopTests(int argc, char** argv) {
-  DesktopTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(DesktopTest, "desktop");
 
 }  // namespace tessarine::desktop::testing
 

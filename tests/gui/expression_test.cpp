@@ -69,10 +69,7 @@ class ExpressionTest : public GuiSuite {
   }
 };
 
-int RunExpressionTests(int argc, char** argv) {
-  ExpressionTest suite;
-  return QTest::qExec(&suite, argc, argv);
-}
+TESSARINE_GUI_SUITE(ExpressionTest, "expression");
 
 }  // namespace tessarine::desktop::testing
 

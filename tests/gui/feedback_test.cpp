@@ -43,10 +43,7 @@ class FeedbackTest : public QObject {
   }
 };
 
-int RunFeedbackTests(int argc, char** argv) {
-  FeedbackTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(FeedbackTest, "feedback");
 
 }  // namespace tessarine::desktop::testing
 

@@ -61,10 +61,7 @@ class FractionsTest : public GuiSuite {
   }
 };
 
-int RunFractionsTests(int argc, char** argv) {
-  FractionsTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(FractionsTest, "fractions");
 
 }  // namespace tessarine::desktop::testing
 

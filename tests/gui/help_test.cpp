@@ -74,10 +74,7 @@ class HelpTest : public GuiSuite {
   }
 };
 
-int RunHelpTests(int argc, char** argv) {
-  HelpTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(HelpTest, "help");
 
 }  // namespace tessarine::desktop::testing
 

@@ -133,10 +133,7 @@ class HttpTest : public QObject {
   std::string outcome_;
 };
 
-int RunHttpTests(int argc, char** argv) {
-  HttpTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(HttpTest, "http");
 
 }  // namespace tessarine::desktop::testing
 

@@ -130,10 +130,7 @@ class KeypadTest : public GuiSuite {
   }
 };
 
-int RunKeypadTests(int argc, char** argv) {
-  KeypadTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(KeypadTest, "keypad");
 
 }  // namespace tessarine::desktop::testing
 

@@ -101,10 +101,7 @@ class LoopsTest : public GuiSuite {
   }
 };
 
-int RunLoopsTests(int argc, char** argv) {
-  LoopsTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(LoopsTest, "loops");
 
 }  // namespace tessarine::desktop::testing
 

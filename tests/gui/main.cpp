@@ -5,32 +5,21 @@
 #include <clocale>
 #include <cstdio>
 #include <cstring>
-#include <functional>
-#include <map>
 #include <string>
 
 #include "desktop_app.hpp"
 #include "suites.hpp"
 
+namespace tessarine::desktop::testing {
+std::map<std::string, SuiteRun>& Suites() {
+  static std::map<std::string, SuiteRun> suites;
+  return suites;
+}
+}  // namespace tessarine::desktop::testing
+
 int main(int argc, char** argv) {
-  const std::map<std::string, std::function<int(int, char**)>> suites = {
-      {"keypad", tessarine::desktop::testing::RunKeypadTests},
-      {"modes", tessarine::desktop::testing::RunModesTests},
-      {"menus", tessarine::desktop::testing::RunMenusTests},
-      {"loops", tessarine::desktop::testing::RunLoopsTests},
-      {"view", tessarine::desktop::testing::RunViewTests},
-      {"printing", tessarine::desktop::testing::RunPrintingTests},
-      {"feedback", tessarine::desktop::testing::RunFeedbackTests},
-      {"conversion", tessarine::desktop::testing::RunConversionTests},
-      {"statistics", tessarine::desktop::testing::RunStatisticsTests},
-      {"fractions", tessarine::desktop::testing::RunFractionsTests},
-      {"expression", tessarine::desktop::testing::RunExpressionTests},
-      {"http", tessarine::desktop::testing::RunHttpTests},
-      {"preferences", tessarine::desktop::testing::RunPreferencesTests},
-      {"help", tessarine::desktop::testing::RunHelpTests},
-      {"desktop", tessarine::desktop::testing::RunDesktopTests},
-      {"look", tessarine::desktop::testing::RunLookTests},
-  };
+  auto& suites = tessarine::desktop::testing::Suites();
+  suites.emplace("look", tessarine::desktop::testing::RunLookTests);
   if (argc < 2 || !suites.count(argv[1])) {
     std::string names;
     for (const auto& [name, run] : suites) names += (names.empty() ? "" : "|") + name;

@@ -141,10 +141,7 @@ class MenusTest : public GuiSuite {
   }
 };
 
-int RunMenusTests(int argc, char** argv) {
-  MenusTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(MenusTest, "menus");
 
 }  // namespace tessarine::desktop::testing
 

@@ -126,10 +126,7 @@ class ModesTest : public GuiSuite {
   }
 };
 
-int RunModesTests(int argc, char** argv) {
-  ModesTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(ModesTest, "modes");
 
 }  // namespace tessarine::desktop::testing
 

@@ -89,10 +89,7 @@ class PreferencesTest : public GuiSuite {
   }
 };
 
-int RunPreferencesTests(int argc, char** argv) {
-  PreferencesTest suite;
-  return QTest::qExec(&suite, argc, argv);
-}
+TESSARINE_GUI_SUITE(PreferencesTest, "preferences");
 
 }  // namespace tessarine::desktop::testing
 

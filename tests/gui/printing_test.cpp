@@ -95,10 +95,7 @@ class PrintingTest : public QObject {
   }
 };
 
-int RunPrintingTests(int argc, char** argv) {
-  PrintingTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(PrintingTest, "printing");
 
 }  // namespace tessarine::desktop::testing
 

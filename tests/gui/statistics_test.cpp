@@ -85,10 +85,7 @@ class StatisticsTest : public GuiSuite {
   }
 };
 
-int RunStatisticsTests(int argc, char** argv) {
-  StatisticsTest suite;
-  return QTest::qExec(&suite, argc, argv);
-}
+TESSARINE_GUI_SUITE(StatisticsTest, "statistics");
 
 }  // namespace tessarine::desktop::testing
 

@@ -1,23 +1,27 @@
-// The suites of the GUI tests, each a Qt Test class in its own file.
+// The suites of the GUI tests, each a Qt Test class in its own file that adds itself
+// to the list by the name CTest gives it (TESSARINE_GUI_SUITE).
 #pragma once
+
+#include <QTest>
+#include <functional>
+#include <map>
+#include <string>
 
 namespace tessarine::desktop::testing {
 
-int RunKeypadTests(int argc, char** argv);
-int RunModesTests(int argc, char** argv);
-int RunMenusTests(int argc, char** argv);
-int RunLoopsTests(int argc, char** argv);
-int RunViewTests(int argc, char** argv);
-int RunPrintingTests(int argc, char** argv);
-int RunFeedbackTests(int argc, char** argv);
-int RunConversionTests(int argc, char** argv);
-int RunStatisticsTests(int argc, char** argv);
-int RunFractionsTests(int argc, char** argv);
-int RunExpressionTests(int argc, char** argv);
-int RunHttpTests(int argc, char** argv);
-int RunPreferencesTests(int argc, char** argv);
-int RunHelpTests(int argc, char** argv);
-int RunDesktopTests(int argc, char** argv);
+using SuiteRun = std::function<int(int, char**)>;
+std::map<std::string, SuiteRun>& Suites();
+inline bool AddSuite(const char* name, SuiteRun run) {
+  return Suites().emplace(name, std::move(run)).second;
+}
+
 int RunLookTests(int argc, char** argv);
 
 }  // namespace tessarine::desktop::testing
+
+#define TESSARINE_GUI_SUITE(Suite, name)                                        \
+  [[maybe_unused]] static const bool kAdded##Suite =                            \
+      ::tessarine::desktop::testing::AddSuite(name, [](int argc, char** argv) { \
+        Suite suite;                                                            \
+        return QTest::qExec(&suite, argc, argv);                                \
+      })

@@ -155,10 +155,7 @@ class ViewTest : public GuiSuite {
   }
 };
 
-int RunViewTests(int argc, char** argv) {
-  ViewTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+TESSARINE_GUI_SUITE(ViewTest, "view");
 
 }  // namespace tessarine::desktop::testing
 

@@ -1,13 +1,9 @@
 // BasicHTTP on real loopback sockets against the scripted server: the exact bytes
 // of each request and the owner's events for each reply.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <chrono>
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -55,9 +51,6 @@ class Harness {
     http.PageReceived = [this](const std::string& type, const std::string& page, bool grab) {
       log.push_back("Page " + type + "|" + page + "|" + std::to_string(grab));
     };
-    http.FileReceived = [this](const std::string& type, const std::string&, bool grab) {
-      log.push_back("File " + type + "|" + std::to_string(grab));
-    };
     http.ProtocolError = [this](int code, const HTTPHeaders&) {
       log.push_back("ProtocolError " + std::to_string(code));
     };
@@ -70,13 +63,11 @@ class Harness {
     http.CookieReceived = [this](const HTTPCookie& c, bool expired) {
       log.push_back("Cookie " + c.Data() + " " + std::to_string(expired));
     };
-    http.FileUpdated = [this](const std::string&, bool) { ++file_updates; };
   }
 
   bool Finished() const {
     for (const std::string& line : log)
-      if (line.starts_with("Page ") || line.starts_with("File ") || line == "Cancelled")
-        return true;
+      if (line.starts_with("Page ") || line == "Cancelled") return true;
     return false;
   }
 
@@ -97,7 +88,6 @@ class Harness {
   testing::FixedClock clock;
   BasicHTTP http{sockets, clock};
   Lines log;
-  int file_updates = 0;
 };
 
 std::string Url(const ScriptedServer& server, const std::string& path) {
@@ -203,34 +193,12 @@ TEST(HttpClient, SendsRequestsByteForByte) {
        },
        "GET http://www.example.com/x y HTTP/1.1\r\nUser-Agent: BasicHTTP/1.0\r\n"
        "Host: www.example.com\r\nConnection: close\r\nProxy-Authorization: Basic cHU6cHA\r\n\r\n"},
-      {"form_in_query_and_extras",
-       [&](BasicHTTP& h) {
-         h.SetClient("Tessa rine/", 4);
-         h.Extras.Add("Accept", "*/*");
-         h.SetForm({"", "a", "b"}, {"", "1 2", "x+y"}, false);
-         h.Get(Url(server, "/f"));
-       },
-       "GET /f?a=1+2&b=x%2By HTTP/1.1\r\nUser-Agent: Tessarine/4.0\r\nHost: 127.0.0.1\r\n"
-       "Connection: close\r\nAccept: */*\r\n\r\n"},
-      {"form_posted_skipping_first_pair",
-       [&](BasicHTTP& h) {
-         h.SetForm({"", "a", "b"}, {"", "", "v"}, true);
-         h.Get(Url(server, "/p"));
-       },
-       "POST /p HTTP/1.1\r\nUser-Agent: BasicHTTP/1.0\r\nHost: 127.0.0.1\r\nConnection: close\r\n"
-       "Content-Type: application/x-www-form-urlencoded\r\nContent-Length: 4\r\n\r\n&b=v"},
-      {"head", [&](BasicHTTP& h) { h.GetHeaders(Url(server, "/")); },
-       "HEAD / HTTP/1.1\r\nUser-Agent: BasicHTTP/1.0\r\nHost: 127.0.0.1\r\nConnection: close\r\n"
-       "\r\n"},
   };
   for (std::size_t i = 0; i < std::size(cases); ++i) {
     SCOPED_TRACE(cases[i].name);
     Harness h;
     cases[i].start(h.http);
-    EXPECT_TRUE(h.PumpUntil([&] {
-      return !h.log.empty() &&
-             (h.log.back().starts_with("Page ") || h.log.back() == "Headers 200 0 1");
-    }));
+    EXPECT_TRUE(h.PumpUntil([&] { return !h.log.empty() && h.log.back().starts_with("Page "); }));
     ASSERT_EQ(server.Requests().size(), i + 1);
     EXPECT_EQ(server.Requests()[i], cases[i].want);
   }
@@ -251,9 +219,6 @@ TEST(HttpClient, FollowsRedirects) {
     int connections;
   } cases[] = {
       {"absolute_301", 301, "{base}/next", Redirected(301, {}), 2},
-      {"absolute_302", 302, "{base}/next", Redirected(302, {}), 2},
-      {"see_other_303", 303, "{base}/next", Redirected(303, {}), 2},
-      {"temporary_307", 307, "{base}/next", Redirected(307, {}), 2},
       {"relative_is_a_bad_url", 302, "/next",
        Concat(kStart, {"Headers 302 0 0", "OperationError Bad URL! 1", "Cancelled"}), 1},
       {"relative_with_dotted_first_part", 302, "127.0.0.1:{port}/next", Redirected(302, {}), 2},
@@ -339,61 +304,6 @@ TEST(HttpClient, ConnectionFailures) {
     EXPECT_TRUE(h.Run());
     EXPECT_EQ(h.log, c.want);
   }
-}
-
-std::string ReadFile(const std::filesystem::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-}
-
-TEST(HttpClient, FileModes) {
-  const std::filesystem::path dir =
-      std::filesystem::temp_directory_path() / ("tessarine_http_" + std::to_string(::getpid()));
-  std::filesystem::create_directories(dir);
-  const std::string body(100000, 'b');
-  const std::string sized = "HTTP/1.1 200 OK\r\nContent-Type: application/x\r\nContent-Length: " +
-                            std::to_string(body.size()) + "\r\n\r\n";
-  using Start = void (BasicHTTP::*)(const std::string&, const std::string&);
-  const Start download = &BasicHTTP::Download, grab = &BasicHTTP::Grab, resume = &BasicHTTP::Resume;
-  const struct {
-    const char* name;
-    Start start;
-    std::string file_before, want_last, want_file;
-    Reply reply;
-  } cases[] = {
-      {"download_with_length", download, "old", "File application/x|0", body,
-       Reply{{sized, body}, 5}},
-      {"chunked_file_keeps_chunk_lines", download, "", "File a/b|0", "3\r\nabc\r\n0\r\n\r\n",
-       Reply{{"HTTP/1.1 200 OK\r\nContent-Type: a/b\r\nTransfer-Encoding: "
-              "chunked\r\n\r\n3\r\nabc\r\n0\r\n\r\n"}}},
-      {"grab_binary_to_file", grab, "", "File application/x|1", body, Reply{{sized, body}, 5}},
-      {"grab_text_in_memory", grab, "", "Page text/plain|hi|1", "",
-       Reply{{"HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\n\r\nhi"}}},
-      {"resume_accepted", resume, "abc", "File |0", "abcdef",
-       Reply{
-           {"HTTP/1.1 206 Partial\r\nContent-Length: 3\r\nContent-Range: bytes 3-5/6\r\n\r\ndef"}}},
-      {"resume_refused", resume, "abc", "Cancelled", "abc",
-       Reply{{"HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\nabcdef"}}},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
-    const std::string file = (dir / c.name).string();
-    std::filesystem::remove(file);
-    if (!c.file_before.empty()) std::ofstream(file, std::ios::binary) << c.file_before;
-    ScriptedServer server({c.reply});
-    Harness h;
-    h.http.BufferSize = 16384;
-    (h.http.*c.start)(Url(server, "/f"), file);
-    EXPECT_TRUE(h.Run());
-    EXPECT_EQ(h.log.back(), c.want_last);
-    if (!c.want_file.empty()) {
-      EXPECT_EQ(ReadFile(file), c.want_file);
-    }
-    if (c.want_file == body) {
-      EXPECT_GE(h.file_updates, 1);
-    }
-  }
-  std::filesystem::remove_all(dir);
 }
 
 }  // namespace

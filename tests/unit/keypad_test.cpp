@@ -1,9 +1,7 @@
 // The keypad's logic where a driver script can't reach it: percent over a pending
-// function, the display masks as the preferences rebuild them, and the display
-// helpers nothing in the program calls.
+// function, the display masks as the preferences rebuild them, and the error state.
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <map>
 #include <string>
 
@@ -85,29 +83,6 @@ TEST_F(KeypadTest, FormatResultReformatsANumberInTheMiddleOfTyping) {
   program.Globals().RebuildFormats(2);
   W().FormatResult(W().Result);
   EXPECT_EQ(Display(), "1.23");
-}
-
-TEST_F(KeypadTest, PaddedRightAlignsToFourteenCharacters) {
-  EXPECT_EQ(W().Padded(5), std::string(13, ' ') + "5");
-  EXPECT_EQ(W().Padded(-0.125), std::string(8, ' ') + "-0.125");
-  EXPECT_EQ(W().Padded(1234567890123), " 1234567890123");
-  EXPECT_EQ(W().Padded(1.0 / 3), "0.3333333333333333");  // longer: stands alone
-  EXPECT_EQ(W().Padded(INFINITY), std::string(11, ' ') + "INF");
-}
-
-TEST_F(KeypadTest, TheUnusedHelpersKeepTheirRules) {
-  EXPECT_EQ(W().ConvertPreciseResult(0.25), "0.25");
-  EXPECT_EQ(W().ConvertPreciseResult(2.0 / 3), "6.66666667e-1");  // CStr is 18 characters
-  EXPECT_EQ(W().ConvertPreciseResult(1e20), "1.e+20");
-  EXPECT_EQ(W().ConvertPreciseResult(1234567890123.0), "1.23456789e+12");
-  EXPECT_FALSE(W().ParseResult("12"));
-  EXPECT_TRUE(W().IsDigit("7"));
-  EXPECT_TRUE(W().IsDigit("."));
-  EXPECT_TRUE(W().IsDigit("5abc"));  // by string order
-  EXPECT_FALSE(W().IsDigit("a"));
-  EXPECT_TRUE(W().IsHex("00fF"));
-  EXPECT_TRUE(W().IsHex(""));
-  EXPECT_FALSE(W().IsHex("0x1"));
 }
 
 TEST_F(KeypadTest, TheErrorStateListHasEveryControlOnceInOrder) {
