@@ -1,10 +1,13 @@
 #include "desktop_app.hpp"
 
 #include <QApplication>
+#include <QEvent>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTimer>
 #include <QWindow>
+#include <functional>
+#include <set>
 
 #include "app_palette.hpp"
 #include "calculator/calc_window.hpp"
@@ -17,6 +20,26 @@ namespace tessarine::desktop {
 
 namespace {
 constexpr int kFeedbackPreloadMs = 300;
+
+// Runs `on_exposed` once, soon after the watched window is first on screen.
+class FirstExpose final : public QObject {
+ public:
+  FirstExpose(QWindow* window, std::function<void()> on_exposed)
+      : QObject(window), on_exposed_(std::move(on_exposed)) {
+    window->installEventFilter(this);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Expose && static_cast<QWindow*>(watched)->isExposed()) {
+      watched->removeEventFilter(this);
+      QTimer::singleShot(0, parent(), std::move(on_exposed_));
+      deleteLater();
+    }
+    return false;
+  }
+
+ private:
+  std::function<void()> on_exposed_;
+};
 }  // namespace
 
 void ConfigureApplication(QApplication& app) {
@@ -97,6 +120,7 @@ void DesktopApp::Start() {
                          windows.SetFront(windows.FindOpen(name));
                    });
   main_view_->show();
+  WatchForMainWindow();
   // The sounds load once the window is up: start-up does not wait for them, and the
   // first key's click does not either.
   QTimer::singleShot(kFeedbackPreloadMs, main_view_.get(), [this] { platform_.PreloadFeedback(); });
@@ -107,9 +131,32 @@ WindowDialog* DesktopApp::DialogFor(const std::string& window_name) const {
   return it == dialogs_.end() ? nullptr : it->second.data();
 }
 
+bool DesktopApp::MainWindowOnScreen() const {
+  return main_view_ && main_view_->windowHandle() && main_view_->windowHandle()->isExposed();
+}
+
+void DesktopApp::WatchForMainWindow() {
+  if (watching_ || sheets_waiting_.empty() || !main_view_ || !main_view_->windowHandle()) return;
+  watching_ = true;
+  new FirstExpose(main_view_->windowHandle(), [this] {
+    watching_ = false;
+    const std::set<std::string> waiting = std::move(sheets_waiting_);
+    sheets_waiting_.clear();
+    for (const std::string& name : waiting) ShowWindow(name, true);
+  });
+}
+
 void DesktopApp::ShowWindow(const std::string& window_name, bool as_sheet) {
   Window* window = program_.FindOpenWindow(window_name);
   if (!window) return;
+  // A sheet belongs on its window: one asked for before the main window is on
+  // screen (a failed network request at start) waits for it, and the main window
+  // goes up first instead of after the sheet is built.
+  if (as_sheet && !MainWindowOnScreen()) {
+    sheets_waiting_.insert(window_name);
+    WatchForMainWindow();
+    return;
+  }
   if (WindowDialog* shown = DialogFor(window_name)) shown->CloseFromProgram();
   WindowDialog* dialog = MakeDialog(*window, as_sheet);
   dialog->show();
@@ -119,6 +166,7 @@ void DesktopApp::ShowWindow(const std::string& window_name, bool as_sheet) {
 }
 
 void DesktopApp::CloseWindow(const std::string& window_name) {
+  sheets_waiting_.erase(window_name);
   if (WindowDialog* dialog = DialogFor(window_name)) {
     const bool sheet = dialog->IsSheet();
     dialog->CloseFromProgram();
@@ -156,6 +204,7 @@ void DesktopApp::CloseAllWindows() {
   for (auto& [name, dialog] : dialogs_)
     if (dialog) dialog->CloseFromProgram();
   dialogs_.clear();
+  sheets_waiting_.clear();
   if (main_view_) main_view_->close();
 }
 

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "qt_platform.hpp"
@@ -57,11 +58,16 @@ class DesktopApp final : public WindowHost {
   // A dialog for the window, kept by name; a window of its own closes through the
   // program when the user closes it.
   WindowDialog* MakeDialog(Window& window, bool as_sheet);
+  bool MainWindowOnScreen() const;
+  // Shows the waiting sheets once the main window is on screen.
+  void WatchForMainWindow();
 
   QtPlatform platform_;
   Program program_;
   std::unique_ptr<MainWindowView> main_view_;
   std::map<std::string, QPointer<WindowDialog>> dialogs_;
+  std::set<std::string> sheets_waiting_;
+  bool watching_ = false;
 };
 
 }  // namespace tessarine::desktop

@@ -1,8 +1,8 @@
 #!/bin/sh
 # Start-up benchmark: time to the main window being mapped, and resident memory
-# 2 s later, for an empty Qt 6 Widgets window, tessarine (twice: as a new user,
-# and with the rate update and the version check on against a server that never
-# answers), SpeedCrunch and galculator, on a private Xvfb display with no window
+# 2 s later, for an empty Qt 6 Widgets window, tessarine (three times: as a new
+# user, with the rate update and the version check on against a server that never
+# answers, and with a sound server), SpeedCrunch and galculator, on a private Xvfb display with no window
 # manager.
 #
 #   bench/startup/run_startup_bench.sh [-n ROUNDS] [-t TESSARINE | -i PREFIX] [-o RESULTS]
@@ -13,7 +13,7 @@
 # are found through BUILD_DIR/bench/startup/startup_programs.env, tessarine there
 # too (or -t PATH; -t none leaves it out; -i PREFIX takes the program installed
 # under PREFIX by "cmake --install BUILD_DIR --prefix PREFIX"). -b runs only the
-# empty window and tessarine's two runs. A program that is missing is skipped
+# empty window and tessarine's three runs. A program that is missing is skipped
 # with a message.
 #
 # The run against a stalling server ("tessarine_stall"): before each such run
@@ -23,6 +23,11 @@
 # with "UpdateExchangeRates" and "CheckForUpdates" on, written by BUILD_DIR's
 # tessarine-drive. The connections the server accepted are the last field of the
 # run's line. It is skipped with a message when the driver or python3 is missing.
+#
+# The run with a sound server ("tessarine_sound"): a private PulseAudio with a null
+# sink, started once, listens on a socket of its own; tessarine runs with
+# PULSE_SERVER pointing there, as on a desktop with sound, where it loads its sound
+# output soon after start. It is skipped with a message when pulseaudio is missing.
 #
 # The programs run interleaved: one warm-up round that is not counted, then ROUNDS
 # rounds (15 unless told) in which every program runs once, the order turning by
@@ -74,6 +79,39 @@ start_stalling_server() {
     fi
     sleep 0.05
   done
+}
+# The sound server of the runs with sound: one for the whole benchmark.
+pulse_pid=
+sound_setup() {
+  if ! command -v pulseaudio > /dev/null 2>&1; then
+    echo "tessarine_sound: pulseaudio is missing; its column is skipped"
+    return
+  fi
+  mkdir -p "$work/pulse-home"
+  HOME=$work/pulse-home XDG_RUNTIME_DIR=$work/pulse-home pulseaudio -n --daemonize=no \
+    --exit-idle-time=-1 --use-pid-file=no -L "module-null-sink sink_name=bench" \
+    -L "module-native-protocol-unix socket=$work/pulse.sock auth-anonymous=1" \
+    > "$work/pulse.log" 2>&1 &
+  pulse_pid=$!
+  sound_setup_tries=0
+  while [ ! -S "$work/pulse.sock" ]; do
+    sound_setup_tries=$((sound_setup_tries + 1))
+    if [ $sound_setup_tries -gt 100 ] || ! kill -0 "$pulse_pid" 2> /dev/null; then
+      echo "tessarine_sound: the sound server does not start; its column is skipped"
+      cat "$work/pulse.log"
+      stop_sound_server
+      return
+    fi
+    sleep 0.05
+  done
+  add_program tessarine_sound "$tessarine"
+}
+stop_sound_server() {
+  if [ -n "$pulse_pid" ]; then
+    kill "$pulse_pid" 2> /dev/null || true
+    wait "$pulse_pid" 2> /dev/null || true
+    pulse_pid=
+  fi
 }
 stop_stalling_server() {
   if [ -n "$stall_pid" ]; then
@@ -136,6 +174,7 @@ measure() {
   work=$(mktemp -d "${TMPDIR:-/tmp}/tessarine-startup.XXXXXX")
   cleanup() {
     stop_stalling_server
+    stop_sound_server
     stop_xvfb
     rm -rf "$work"
   }
@@ -161,6 +200,7 @@ measure() {
   elif [ -x "$tessarine" ]; then
     add_program tessarine "$tessarine"
     stall_setup
+    sound_setup
   else
     echo "tessarine: not built ($tessarine is missing); its column is skipped"
   fi
@@ -191,6 +231,10 @@ measure() {
       fi
       run_clean_config=$stall_config
       set -- --server "127.0.0.1:$(cut -d ' ' -f 1 "$work/stall.state")"
+    fi
+    if [ "$run_name" = tessarine_sound ]; then
+      set -- "PULSE_SERVER=unix:$work/pulse.sock" "$run_path"
+      run_path=$(command -v env)
     fi
     run_line=$(run_clean "$probe" --settle 2000 -- "$run_path" "$@" 2>> "$programs_log")
     run_clean_config=
@@ -263,7 +307,7 @@ if [ -n "$report_only" ]; then
   results=$report_only
   programs_log=${results%.txt}.log
   names=
-  for name in empty_qt tessarine tessarine_stall speedcrunch galculator; do
+  for name in empty_qt tessarine tessarine_stall tessarine_sound speedcrunch galculator; do
     if awk -v name="$name" '!/^#/ && $2 == name { found = 1 } END { exit !found }' "$results"; then
       names="$names $name"
     fi

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QWidget>
 
+#include "conversion/version_update_error_window.hpp"
 #include "gui_fixture.hpp"
 #include "main_window_view.hpp"
 #include "menu_bar_view.hpp"
@@ -115,6 +116,19 @@ class DesktopTest : public GuiSuite {
     QVERIFY2(help->geometry().left() < window_right,
              qPrintable(QStringLiteral("%1 >= %2").arg(help->geometry().left()).arg(window_right)));
     help->close();
+  }
+
+  // A sheet asked for while the main window is not on screen (a failed rate update
+  // at start, before the window is mapped) waits for the window.
+  void aSheetWaitsForItsWindow() {
+    f_->View().hide();
+    QTRY_VERIFY(!f_->View().windowHandle()->isExposed());
+    ShowNetworkError(f_->App().GetProgram().Context(), "no network");
+    QCoreApplication::processEvents();
+    QVERIFY(!f_->App().DialogFor("VersionUpdateErrorWindow"));
+    f_->View().show();
+    QTRY_VERIFY(f_->App().DialogFor("VersionUpdateErrorWindow"));
+    QVERIFY(f_->View().windowHandle()->isExposed());
   }
 };
 
