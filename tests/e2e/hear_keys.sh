@@ -94,6 +94,9 @@ record() {
   shift 2
   parec -d tsink.monitor --rate=16000 --channels=1 --format=s16le --raw > "$work/$out.raw" &
   local rec=$!
+  # The keys wait for the recording: on a busy machine parec may take a while to
+  # start, and a word before its start would be missed.
+  for _ in $(seq 1 50); do [ -s "$work/$out.raw" ] && break; sleep 0.1; done
   sleep 0.5
   for k in "$@"; do xdotool key "$k"; sleep "$gap"; done
   kill "$rec"
