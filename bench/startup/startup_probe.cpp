@@ -33,8 +33,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <memory>
 #include <sstream>
@@ -82,9 +80,24 @@ Options ParseOptions(int argc, char** argv) {
   return options;
 }
 
+// A small file of /proc, or "" when it cannot be read. Any process on the machine
+// may end between the listing and the read (the read then fails with ESRCH), so
+// no stream that throws on a read error.
+std::string ReadProcFile(const std::string& path) {
+  const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (fd < 0) return {};
+  std::string text;
+  char buffer[4096];
+  ssize_t n = 0;
+  while ((n = read(fd, buffer, sizeof buffer)) > 0)
+    text.append(buffer, static_cast<std::size_t>(n));
+  close(fd);
+  return n < 0 ? std::string() : text;
+}
+
 // VmRSS of one process in KiB, or -1 when it cannot be read.
 long ReadRssKib(pid_t pid) {
-  std::ifstream status("/proc/" + std::to_string(pid) + "/status");
+  std::istringstream status(ReadProcFile("/proc/" + std::to_string(pid) + "/status"));
   std::string line;
   while (std::getline(status, line)) {
     if (line.rfind("VmRSS:", 0) == 0) return std::strtol(line.c_str() + 6, nullptr, 10);
@@ -101,8 +114,7 @@ std::map<pid_t, pid_t> ReadParents() {
     char* end = nullptr;
     const long pid = std::strtol(entry->d_name, &end, 10);
     if (*end != '\0' || pid <= 0) continue;
-    std::ifstream stat("/proc/" + std::string(entry->d_name) + "/stat");
-    std::string text((std::istreambuf_iterator<char>(stat)), std::istreambuf_iterator<char>());
+    const std::string text = ReadProcFile("/proc/" + std::string(entry->d_name) + "/stat");
     // The command name is in parentheses and may hold spaces: read after the last ')'.
     const auto close = text.rfind(')');
     if (close == std::string::npos) continue;
