@@ -1,35 +1,17 @@
-// Help tags where a driver script can't reach them: the clear key's text without
-// Escape, and the preferences window's table applied to a window of its controls.
+// Help tags where a driver script can't reach them: the preferences window's table
+// applied to a window of its controls. The main window's tags, the clear key's with
+// Escape (Escape always clears), are the help tags script's.
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "calculator/calc_window.hpp"
 #include "runtime/headless/headless_platform.hpp"
+#include "runtime/window.hpp"
 #include "shell/preferences_help_texts.hpp"
-#include "shell/program.hpp"
 
 namespace tessarine {
 namespace {
-
-TEST(HelpTags, ClearKeyNamesEscapeOnlyWhileEscapeClears) {
-  HeadlessPlatform headless;
-  Program program(headless.platform(), 1);
-  program.Start();
-  headless.Wait(100);
-  CalcWindow& calc = program.GetCalcWindow();
-  calc.UseESCforClear = false;
-  calc.HelpTagsEnabled(true);
-  EXPECT_EQ(calc.Get("ButtonClear").HelpTag(), kButtonClearHelpPlain);
-  calc.UseESCforClear = true;
-  calc.HelpTagsEnabled(true);
-  EXPECT_EQ(calc.Get("ButtonClear").HelpTag(), kButtonClearHelpWithEsc);
-  calc.HelpTagsEnabled(false);
-  calc.HelpTagsEnabled(false);
-  EXPECT_EQ(calc.Get("ButtonClear").HelpTag(), "");
-  EXPECT_EQ(calc.Item("UnitsRadio", 0).HelpTag(), "");
-}
 
 TEST(HelpTags, PreferencesTableSetsAndClearsEachOfItsControls) {
   HeadlessPlatform headless;
