@@ -1,4 +1,4 @@
-// The engine's contract with its owner: Source, Run and the events.
+// The engine as the Expression tab uses it: Source, then Run, every event set.
 #include <gtest/gtest.h>
 
 #include "run_script.hpp"
@@ -6,40 +6,17 @@
 namespace tessarine::expression {
 namespace {
 
-TEST(ScriptEngine, SourceReplacesTheProgramAndEachRunPrintsAgain) {
+TEST(ScriptEngine, SourceReplacesTheProgram) {
   ScriptEngine engine;
   EXPECT_EQ(RunSource(engine, "Print Str(1)").printed, std::vector<std::string>{"1"});
   EXPECT_EQ(RunSource(engine, "print str(2)").printed, std::vector<std::string>{"2"});
-  Outcome again;
-  engine.Print = [&again](const std::string& s) { again.printed.push_back(s); };
-  engine.Run();
-  engine.Run();
-  EXPECT_EQ(again.printed, (std::vector<std::string>{"2", "2"}));
   EXPECT_EQ(engine.Source(), "print str(2)");
-}
-
-TEST(ScriptEngine, CompileErrorRepeatsAtEveryRun) {
-  ScriptEngine engine;
-  EXPECT_EQ(RunSource(engine, "Print Str(4*)").compile_errors, 1);
-  int errors = 0;
-  engine.CompilerError = [&errors](int, int, const std::string&) { ++errors; };
-  engine.Run();
-  EXPECT_EQ(errors, 1);
 }
 
 TEST(ScriptEngine, SeveralLinesPrintInOrderAndBlankLinesAreSkipped) {
   EXPECT_EQ(RunTyped("1)\r\n\n  Print Str(2) + Str(3").printed,
             (std::vector<std::string>{"1", "23"}));
   EXPECT_TRUE(RunSource("\n \n").printed.empty());
-}
-
-TEST(ScriptEngine, RunsWithNoEventsSet) {
-  ScriptEngine engine;
-  for (const char* source : {"Print Str(1)", "Print Str(", "Print Str(1\\0)"}) {
-    engine.Source(source);
-    engine.Run();
-  }
-  EXPECT_EQ(RunSource(engine, "Print Str(3)").printed, std::vector<std::string>{"3"});
 }
 
 TEST(ScriptEngine, PrintHandlerMayReplaceTheSourceAndRunAgain) {

@@ -39,29 +39,7 @@ INSTANTIATE_TEST_SUITE_P(
         PrintCase{"Tan", "tan(2)", "-2.185039863261519"}),
     [](const testing::TestParamInfo<PrintCase>& info) { return std::string(info.param.name); });
 
-struct CountCase {
-  const char* name;
-  const char* typed;
-  friend std::ostream& operator<<(std::ostream& os, const CountCase& c) { return os << c.name; }
-};
-
-class ArgumentCounts : public testing::TestWithParam<CountCase> {};
-
-TEST_P(ArgumentCounts, AreCompileErrors) {
-  const Outcome o = RunTyped(GetParam().typed);
-  EXPECT_EQ(o.compile_errors, 1);
-  EXPECT_EQ(o.error_message, "Wrong number of arguments");
-  EXPECT_TRUE(o.printed.empty());
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    WrongCounts, ArgumentCounts,
-    testing::Values(CountCase{"NoArgument", "abs()"}, CountCase{"TwoForOne", "sqrt(4, 2)"},
-                    CountCase{"OneForTwo", "pow(2)"}, CountCase{"ThreeForTwo", "max(1, 2, 3)"},
-                    CountCase{"AtanTakesOne", "atan(1, 2)"}, CountCase{"Atan2TakesTwo", "atan2(1)"},
-                    CountCase{"StrTakesOne", "1) + Str(1, 2"},
-                    CountCase{"EmptyPairAfterWrapping", ")("}),
-    [](const testing::TestParamInfo<CountCase>& info) { return std::string(info.param.name); });
+// Wrong numbers of arguments are compile errors: the errors test lists them.
 
 }  // namespace
 }  // namespace tessarine::expression

@@ -16,27 +16,18 @@ namespace tessarine::expression {
 struct Outcome {
   std::vector<std::string> printed;
   int compile_errors = 0;
-  int error_line = 0;
-  int error_column = 0;
   std::string error_message;
   int runtime_errors = 0;
-  std::string runtime_class;
 };
 
 inline Outcome RunSource(ScriptEngine& engine, std::string_view source) {
   Outcome out;
   engine.Print = [&out](const std::string& s) { out.printed.push_back(s); };
-  engine.CompilerError = [&out](int line, int column, const std::string& message) {
+  engine.CompilerError = [&out](int, int, const std::string& message) {
     ++out.compile_errors;
-    out.error_line = line;
-    out.error_column = column;
     out.error_message = message;
   };
-  engine.RuntimeError = [&out](int line, const RuntimeException& e) {
-    ++out.runtime_errors;
-    out.error_line = line;
-    out.runtime_class = e.ClassName();
-  };
+  engine.RuntimeError = [&out](int, const RuntimeException&) { ++out.runtime_errors; };
   engine.Source(source);
   engine.Run();
   return out;

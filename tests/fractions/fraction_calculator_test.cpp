@@ -1,6 +1,6 @@
 // The fraction calculator's rules on its nine fields: signs in every position, zero
 // and odd bottoms, 32-bit integers that wrap or saturate, text that is no number, an
-// operator row that names none, and the result moved to the inputs.
+// operator row that names none.
 #include "fractions/fraction_calculator.hpp"
 
 #include <gtest/gtest.h>
@@ -100,15 +100,6 @@ TEST(FractionCalculatorTest, EachBoxSeesTheFieldsOfItsMoment) {
                                   seen.push_back(now.numtop1 + " " + now.numtop2);
                                 });
   EXPECT_EQ(seen, (std::vector<std::string>{"-1 -1", "1 -1"}));
-}
-
-TEST(FractionCalculatorTest, TransferMovesAResultOnly) {
-  FractionCalculatorFields f{"1", "2", "3", "4", "5", "6", "-7", "", ""};
-  EXPECT_TRUE(TransferFractionResultToInput(f));
-  EXPECT_EQ(Join(f), "-7 _ _ _ _ _ _ _ _");
-  FractionCalculatorFields empty{"1", "2", "3", "4", "5", "6", "", "", ""};
-  EXPECT_FALSE(TransferFractionResultToInput(empty));
-  EXPECT_EQ(Join(empty), "1 2 3 4 5 6 _ _ _");
 }
 
 }  // namespace

