@@ -23,9 +23,9 @@
 #include <string>
 #include <vector>
 
-#include "socket_pump.hpp"
 #include "runtime/platform/platform.hpp"
 #include "runtime/posix/posix_file_system.hpp"
+#include "socket_pump.hpp"
 
 class QDialog;
 class QEvent;
