@@ -9,6 +9,7 @@
 namespace tessarine {
 namespace {
 
+// -2 1/4, a zero bottom under -2 1, 2.5 and 0.333333 are the conversions script's.
 TEST(FractionToDecimalTest, Answers) {
   struct Row {
     const char* name;
@@ -21,10 +22,8 @@ TEST(FractionToDecimalTest, Answers) {
   const Row rows[] = {
       {"a mixed number", "1", "1", "2", "1.5"},
       {"a zero whole part", "0", "1", "4", "0.25"},
-      {"a negative whole part", "-2", "1", "4", "-2.25"},
       {"a minus that cuts to a zero whole part", "-0.5", "1", "4", "-0.25"},
       {"a zero bottom", "", "3", "0", "Undefined"},
-      {"a zero bottom with a whole part", "2", "3", "0", "Undefined"},
       {"an empty bottom", "2", "3", "", "Undefined"},
       {"a zero top gives no answer", "", "0", "5", ""},
       {"a negative top gives no answer", "", "-1", "2", ""},
@@ -54,14 +53,12 @@ TEST(DecimalToFractionTest, Answers) {
   };
   const Row rows[] = {
       {"a quarter", "0.25", "0", "1", "4"},
-      {"a mixed number", "2.5", "2", "1", "2"},
       {"a negative mixed number", "-2.5", "-2", "1", "2"},
       {"a negative fraction loses its minus", "-0.5", "0", "1", "2"},
       {"a whole number stands as typed", "-5", "-5", "0", "1"},
       {"below the resolution stands as typed", "3.000004", "3.000004", "0", "1"},
       {"one step", "0.00001", "0", "1", "100000"},
       {"rounds up to a whole", "0.999999", "0", "1", "1"},
-      {"keeps its hundred-thousandths", "0.333333", "0", "33333", "100000"},
       {"an empty text changes nothing", "", "stale", "stale", "stale"},
       {"the smallest step lost to the float", "5.00001", "5.00001", "0", "1"},
       {"half a step", "0.000005", "0.000005", "0", "1"},

@@ -65,8 +65,6 @@ class GuiFixture {
 
   // Texts of the message boxes closed by the watchdog since the last call.
   QStringList TakeDialogs();
-  // True when no message box was left unclaimed (checked at each test's end).
-  bool NoUnclaimedDialogs() const { return dialogs_.isEmpty(); }
 
  private:
   QWidget* FindDialogWidget(const char* window, const char* control, int index);

@@ -76,7 +76,6 @@ class KeypadTest : public GuiSuite {
     QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, last.center());
     QTRY_VERIFY(!list->isVisible());
     QCOMPARE(f_->Calc().StorageValue(10), 5.0);
-    QVERIFY(f_->Calc().Item("MemoryLabel", 10).Visible());
   }
 
   void typedKeyFlashesDown() {

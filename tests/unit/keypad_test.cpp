@@ -1,5 +1,5 @@
 // The keypad's logic where a driver script can't reach it: percent over a pending
-// function, the display masks as the preferences rebuild them, and the error state.
+// function and the error state.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -48,37 +48,6 @@ TEST_F(KeypadTest, PercentOverwritesAPendingFunction) {
   Arm("Power");
   Keys("10%=");
   EXPECT_EQ(W().Result, 220);
-}
-
-// The masks at 10 places and the display of 2/3 there are the preferences script's.
-TEST_F(KeypadTest, RebuiltMasksFollowTheNumberOfDecimals) {
-  struct Case {
-    int decimals;
-    const char* keys;
-    const char* display;
-    const char* exponent;
-  };
-  const Case cases[] = {
-      {0, ".05=", "5.", "-2"},  // 0.05 is below 0.1: scientific form
-      {0, ".5=", "1.", ""},     // 0.5 is not; no decimals: rounded away from zero
-      {0, "2/3=", "1.", ""},   {2, "2/3=", "0.67", ""}, {2, ".005=", "5.", "-3"},  // below 0.01
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.keys);
-    program.Globals().RebuildFormats(c.decimals);
-    Keys("C");
-    Keys(c.keys);
-    EXPECT_EQ(Display(), c.display);
-    EXPECT_EQ(W().Get("ExponentText").Text(), c.exponent);
-  }
-}
-
-TEST_F(KeypadTest, FormatResultReformatsANumberInTheMiddleOfTyping) {
-  Keys("1.23456");
-  EXPECT_EQ(Display(), "1.23456");
-  program.Globals().RebuildFormats(2);
-  W().FormatResult(W().Result);
-  EXPECT_EQ(Display(), "1.23");
 }
 
 TEST_F(KeypadTest, TheErrorStateListHasEveryControlOnceInOrder) {

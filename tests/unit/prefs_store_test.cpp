@@ -157,15 +157,5 @@ TEST_F(PrefsModuleTest, OldNumberTypesAreRewrittenAsType7) {
   EXPECT_EQ(File(), Head(7, false, "B") + Bytes({0, 0, 0, 42, 0, 0, 0, 0}));
 }
 
-TEST_F(PrefsModuleTest, ASecondSetNameRereadsTheFirstFileAndDropsUnwrittenChanges) {
-  prefs.SetName("Tessarine4 Preferences", "PREF");
-  prefs.SetBooleanValue("Saved", true, true);
-  prefs.WriteOut();
-  prefs.SetBooleanValue("Unsaved", true, true);
-  prefs.SetName("Other Name", "XXXX");
-  EXPECT_EQ(prefs.Data().booleans.size(), 1u);
-  EXPECT_EQ(prefs.FilePath(), "/memory/Tessarine/Tessarine4 Preferences");
-}
-
 }  // namespace
 }  // namespace tessarine
