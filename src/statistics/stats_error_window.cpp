@@ -4,7 +4,7 @@
 #include "statistics/anova.hpp"
 #include "statistics/anova_window.hpp"
 #include "statistics/sheets.hpp"
-#include "statistics/t_test.hpp"
+#include "statistics/ttest.hpp"
 #include "statistics/ttest_window.hpp"
 
 namespace tessarine::statistics {

@@ -4,7 +4,7 @@
 #include "statistics/sheets.hpp"
 #include "statistics/stats_error_window.hpp"
 #include "statistics/stats_tab.hpp"
-#include "statistics/t_test.hpp"
+#include "statistics/ttest.hpp"
 
 namespace tessarine::statistics {
 

@@ -1,4 +1,4 @@
-#include "statistics/t_test.hpp"
+#include "statistics/ttest.hpp"
 
 #include "runtime/arithmetic.hpp"
 #include "runtime/numbers.hpp"
