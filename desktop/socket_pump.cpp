@@ -36,18 +36,18 @@ void SocketPump::Sync() {
     if (reading.count(fd) == 0) notifier->setEnabled(false);
   for (auto& [fd, notifier] : writers_)
     if (writing.count(fd) == 0) notifier->setEnabled(false);
-  for (const int fd : reading) Watch(readers_, fd, QSocketNotifier::Read, true);
-  for (const int fd : writing) Watch(writers_, fd, QSocketNotifier::Write, true);
+  for (const int fd : reading) Watch(readers_, fd, QSocketNotifier::Read);
+  for (const int fd : writing) Watch(writers_, fd, QSocketNotifier::Write);
   if (sockets_.Due() && !due_.isActive()) due_.start();
 }
 
-void SocketPump::Watch(Notifiers& notifiers, int fd, QSocketNotifier::Type type, bool on) {
+void SocketPump::Watch(Notifiers& notifiers, int fd, QSocketNotifier::Type type) {
   auto& notifier = notifiers[fd];
   if (!notifier) {
     notifier = std::make_unique<QSocketNotifier>(fd, type);
     connect(notifier.get(), &QSocketNotifier::activated, this, &SocketPump::Run);
   }
-  notifier->setEnabled(on);
+  notifier->setEnabled(true);
 }
 
 }  // namespace tessarine::desktop

@@ -30,7 +30,8 @@ class SocketPump final : public QObject, public SocketFactory {
   void Run();
   // Brings the notifiers in line with the sockets' watches.
   void Sync();
-  void Watch(Notifiers& notifiers, int fd, QSocketNotifier::Type type, bool on);
+  // Switches on the notifier of that descriptor and direction, made on first use.
+  void Watch(Notifiers& notifiers, int fd, QSocketNotifier::Type type);
 
   PosixSocketFactory sockets_;
   Notifiers readers_;
